@@ -1,0 +1,76 @@
+#ifndef QKXWIDGETBASE_P_H
+#define QKXWIDGETBASE_P_H
+
+//
+//  W A R N I N G
+//  -------------
+// Not part of the library's public API: widget families derive their Privates from this class.
+//
+
+#include "QKXWidgetBase.h"
+
+#include <QHash>
+#include <QObject>
+#include <QString>
+
+class QLabel;
+class QMouseEvent;
+
+// Gives a Private derived from QKXWidgetBasePrivate a typed q_func() over the base's back pointer.
+#define KX_DECLARE_PUBLIC(Class)                                                           \
+    inline Class *q_func() { return static_cast<Class *>(q); }                             \
+    inline const Class *q_func() const { return static_cast<const Class *>(q); }           \
+    friend class Class;
+
+class STANDALONEPLUGINS_EXPORT QKXWidgetBasePrivate : public QObject
+{
+    Q_OBJECT
+public:
+    explicit QKXWidgetBasePrivate(QKXWidgetBase *q);
+    ~QKXWidgetBasePrivate() override;
+
+public Q_SLOTS:
+    virtual void init();
+    virtual QString attributeName() const;
+    virtual void setAttributeName(const QString &name);
+    virtual QString labelText() const;
+    virtual void setLabelText(const QString &text);
+    virtual bool isReadOnly() const;
+    virtual void setReadOnly(bool readOnly);
+    virtual bool isLocked() const;
+    virtual void setLocked(bool locked);
+    virtual bool supressDebug() const;
+    virtual void setSupressDebug(bool supress);
+    virtual int updateDelay() const;
+    virtual void setUpdateDelay(int delay);
+    virtual QString currentSize() const;
+    virtual void changeSize(const QString &size);
+    virtual QObject *getEventFilter() const;
+    virtual void setEventFilter(QObject *filter);
+    virtual void supressClicked(QMouseEvent *event);
+    virtual QLabel *label();
+    virtual void setLabel(QLabel *label);
+    virtual void updateStyle();
+
+public:
+    // The overlay rule shared by the families with a compact and a large look: each entry is the
+    // family's template, then its locked overlay when locked, then its read-only overlay when read-only.
+    void setOverlaidStyles(const QString &minTemplate, const QString &maxTemplate,
+                           const QString &lockedOverlay, const QString &readOnlyOverlay);
+
+    QKXWidgetBase *q;
+    QString attributeNameValue;
+    QString currentSizeName;
+    QHash<QString, QString> styles;
+    bool readOnly;
+    bool locked;
+    bool supressDebugOutput;
+    int updateDelayValue;
+    QObject *filter;
+    QLabel *labelWidget;
+
+private:
+    KX_DECLARE_PUBLIC(QKXWidgetBase)
+};
+
+#endif // QKXWIDGETBASE_P_H
