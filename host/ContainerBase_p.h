@@ -1,0 +1,40 @@
+#ifndef CONTAINERBASE_P_H
+#define CONTAINERBASE_P_H
+
+//
+//  W A R N I N G
+//  -------------
+//
+// Not part of the host library's interface: shared by the container classes of this folder only.
+//
+
+#include <QString>
+
+class QFrame;
+class QLabel;
+class QPushButton;
+class QWidget;
+class ContainerBase;
+
+class ContainerBasePrivate
+{
+public:
+    explicit ContainerBasePrivate(ContainerBase *q);
+
+    // The sheet of the "BorderFrame" and its title bar. Selectors are by object name only, so an
+    // editor's own content never inherits the container's look.
+    static QString frameStyleSheet(bool border);
+
+    // The text of the title bar's close key, in the ContainerBase translation context.
+    static QString closeKeyText();
+
+    ContainerBase *q_ptr;
+    QFrame *borderFrame = nullptr;
+    QWidget *control = nullptr;
+    QLabel *title = nullptr;
+    QPushButton *closeKey = nullptr;
+    QFrame *content = nullptr;
+    bool border = true;
+};
+
+#endif // CONTAINERBASE_P_H

@@ -1,0 +1,240 @@
+#include "CSS.h"
+#include "ContainerImpl.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTranslator>
+#include <QtTest>
+
+namespace {
+
+// A real press, move and release delivered through the window, as the touch screen sends them.
+void drag(QWidget *window, QPoint from, QPoint to)
+{
+    QWindow *handle = window->windowHandle();
+    QTest::mousePress(handle, Qt::LeftButton, Qt::NoModifier, from);
+    QTest::mouseMove(handle, (from + to) / 2);
+    QTest::mouseMove(handle, to);
+    QTest::mouseRelease(handle, Qt::LeftButton, Qt::NoModifier, to);
+}
+
+// The rule of the frame itself; the same sheet also styles the title bar inside it.
+QString borderFrameRule(const ContainerImpl &popup)
+{
+    const QString sheet = popup.borderFrame()->styleSheet();
+    const int start = sheet.indexOf(QLatin1String("QFrame#BorderFrame"));
+    return start < 0 ? QString() : sheet.mid(start, sheet.indexOf(QLatin1Char('}'), start) - start);
+}
+
+class GermanCloseKey : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        const bool closeKey = qstrcmp(context, "ContainerBase") == 0 && qstrcmp(source, "Close") == 0;
+        return closeKey ? QStringLiteral("Schließen") : QString();
+    }
+};
+
+} // namespace
+
+class tst_ContainerImpl : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void structure();
+    void openedAndClosedEachTime();
+    void showPlacesPopup();
+    void dragKeepsInsideParent();
+    void noDragThroughKeysOrWhenDisabled();
+    void replacingLayout();
+    void border();
+    void closeKey();
+
+private:
+    QScopedPointer<QWidget> window;
+    QWidget *screen = nullptr;
+    QPoint origin; // the screen's top-left corner in window coordinates
+};
+
+void tst_ContainerImpl::init()
+{
+    // The screen sits off the window's origin, so parent and window coordinates differ.
+    window.reset(new QWidget);
+    window->resize(500, 400);
+    screen = new QWidget(window.data());
+    screen->setGeometry(20, 30, 400, 300);
+    origin = screen->pos();
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.data()));
+}
+
+void tst_ContainerImpl::structure()
+{
+    ContainerImpl popup(screen);
+    QFrame *border = popup.findChild<QFrame *>(QStringLiteral("BorderFrame"));
+    QWidget *control = popup.findChild<QWidget *>(QStringLiteral("ContainerControl"));
+    QVERIFY(border && control);
+    QCOMPARE(popup.borderFrame(), border);
+    QCOMPARE(popup.controlWidget(), control);
+    QCOMPARE(control->parentWidget(), border);
+    QCOMPARE(popup.getContainerFrame()->parentWidget(), border);
+
+    ContainerImpl floating;
+    QVERIFY(floating.isWindow());
+    QVERIFY(floating.windowFlags().testFlag(Qt::FramelessWindowHint));
+}
+
+void tst_ContainerImpl::openedAndClosedEachTime()
+{
+    // Built before its screen is shown, the popup must still not open with it.
+    QWidget other;
+    ContainerImpl popup(&other);
+    QStringList events;
+    connect(&popup, &ContainerBase::WindowOpened, [&] { events << QStringLiteral("opened"); });
+    connect(&popup, &ContainerBase::WindowClosed, [&] { events << QStringLiteral("closed"); });
+    other.show();
+    QVERIFY(!popup.isVisible());
+    for (int i = 0; i < 2; ++i) {
+        popup.show();
+        popup.show(); // already open: no second announcement
+        QVERIFY(popup.isVisible());
+        popup.hide();
+        QVERIFY(!popup.isVisible());
+    }
+    QCOMPARE(events, (QStringList{"opened", "closed", "opened", "closed"}));
+}
+
+void tst_ContainerImpl::showPlacesPopup()
+{
+    ContainerImpl popup(screen);
+    popup.resize(50, 60);
+    popup.show();
+    QCOMPARE(popup.size(), QSize(50, 60)); // no normal size: left alone
+    popup.hide();
+
+    popup.setNormalSize(260, 200);
+    QCOMPARE(popup.sizeHint(), QSize(260, 200));
+    popup.resize(100, 100);
+    popup.move(30, 40);
+    // A field created after the popup must not cover it.
+    auto *later = new QLabel(QStringLiteral("field"), screen);
+    later->setGeometry(0, 0, 400, 300);
+    later->show();
+    popup.show();
+    QCOMPARE(popup.size(), QSize(260, 200));
+    QCOMPARE(popup.mapTo(window.data(), QPoint(0, 0)), origin + QPoint(30, 40));
+    QWidget *top = screen->childAt(50, 60);
+    QVERIFY(top == &popup || popup.isAncestorOf(top));
+}
+
+void tst_ContainerImpl::dragKeepsInsideParent()
+{
+    ContainerImpl popup(screen);
+    popup.setWindowTitle(QStringLiteral("Spinner"));
+    popup.setNormalSize(100, 80);
+    popup.move(50, 50);
+    popup.show();
+
+    // Presses on the title text fall through to the container, which drags.
+    drag(window.data(), origin + QPoint(60, 60), origin + QPoint(90, 100));
+    QCOMPARE(popup.pos(), QPoint(80, 90));
+    drag(window.data(), origin + QPoint(90, 100), origin + QPoint(470, 360));
+    QCOMPARE(popup.pos(), QPoint(300, 220));
+    drag(window.data(), origin + QPoint(310, 230), origin + QPoint(-15, -25));
+    QCOMPARE(popup.pos(), QPoint(0, 0));
+}
+
+void tst_ContainerImpl::noDragThroughKeysOrWhenDisabled()
+{
+    ContainerImpl popup(screen);
+    auto *row = new QHBoxLayout;
+    auto *key = new QPushButton(QStringLiteral("7"));
+    key->setMinimumSize(60, 50);
+    row->addWidget(key);
+    popup.setLayout(row, true);
+    popup.move(10, 10);
+    popup.show();
+
+    const QPoint onKey = key->mapTo(window.data(), key->rect().center());
+    drag(window.data(), onKey, onKey + QPoint(40, 40));
+    QCOMPARE(popup.pos(), QPoint(10, 10));
+
+    popup.setDraggable(false);
+    drag(window.data(), origin + QPoint(12, 12), origin + QPoint(80, 80));
+    QCOMPARE(popup.pos(), QPoint(10, 10));
+}
+
+void tst_ContainerImpl::replacingLayout()
+{
+    ContainerImpl popup(screen);
+    auto *keep = new QPushButton(QStringLiteral("Enter"));
+    keep->setMinimumSize(150, 120);
+    auto *first = new QVBoxLayout;
+    first->addWidget(keep);
+    popup.setLayout(first, true);
+    QVERIFY(popup.width() >= 150 && popup.height() >= 120);
+
+    // A layout rebuilt around the same key: the old one goes, the key stays.
+    QPointer<QLayout> old = first;
+    auto *second = new QHBoxLayout;
+    second->addWidget(keep);
+    popup.setLayout(second, false);
+    QVERIFY(old.isNull());
+    QCOMPARE(keep->parentWidget(), popup.getContainerFrame());
+
+    // A new layout that sat inside the old one survives the old one's deletion.
+    auto *nested = new QVBoxLayout;
+    second->addLayout(nested);
+    popup.setLayout(nested, false);
+    QCOMPARE(popup.getContainerFrame()->layout(), nested);
+}
+
+void tst_ContainerImpl::border()
+{
+    ContainerImpl popup(screen);
+    QVERIFY(borderFrameRule(popup).contains(CSS::border()));
+    popup.setBorder(false);
+    QVERIFY(!popup.hasBorder());
+    QVERIFY(borderFrameRule(popup).contains(QLatin1String("border: none")));
+    // Restyling after a palette change keeps the choice.
+    popup.updateStyle();
+    QVERIFY(borderFrameRule(popup).contains(QLatin1String("border: none")));
+    popup.setBorder(true);
+    QVERIFY(borderFrameRule(popup).contains(CSS::border()));
+    QVERIFY(!borderFrameRule(popup).contains(QLatin1String("border: none")));
+}
+
+void tst_ContainerImpl::closeKey()
+{
+    ContainerImpl popup(screen);
+    auto *key = popup.findChild<QPushButton *>(QStringLiteral("ContainerClose"));
+    popup.setWindowTitle(QStringLiteral("Keyboard"), ContainerBase::CloseButton);
+    QCOMPARE(popup.findChild<QLabel *>(QStringLiteral("ContainerTitle"))->text(), QStringLiteral("Keyboard"));
+    popup.show();
+    QVERIFY(key && key->isVisible());
+
+    GermanCloseKey german;
+    QCoreApplication::installTranslator(&german);
+    QTRY_COMPARE(key->text(), QStringLiteral("Schließen"));
+    QCoreApplication::removeTranslator(&german);
+    QTRY_COMPARE(key->text(), QStringLiteral("Close"));
+
+    QSignalSpy closed(&popup, &ContainerBase::WindowClosed);
+    QTest::mouseClick(key, Qt::LeftButton);
+    QVERIFY(!popup.isVisible());
+    QCOMPARE(closed.count(), 1);
+
+    popup.setWindowTitle(QStringLiteral("Keyboard"), ContainerBase::NoTitleButtons);
+    popup.show();
+    QVERIFY(!key->isVisible());
+}
+
+QTEST_MAIN(tst_ContainerImpl)
+#include "tst_ContainerImpl.moc"

@@ -1,0 +1,81 @@
+#include "GlobalImpl.h"
+#include "SystemModule.h"
+
+#include <QApplication>
+#include <QDesktopWidget>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QtTest>
+
+class MainScreen : public QWidget
+{
+    Q_OBJECT
+};
+
+class tst_GlobalImpl : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void desktop();
+    void parentWindowName();
+    void screenRegistry();
+};
+
+void tst_GlobalImpl::desktop()
+{
+    GlobalImpl *global = GlobalImpl::getInstance();
+    QCOMPARE(GlobalImpl::getInstance(), global);
+    QCOMPARE(global->desktop(), static_cast<QWidget *>(QApplication::desktop()));
+
+    auto *mainWindow = new QWidget;
+    global->setDesktop(mainWindow);
+    QCOMPARE(global->desktop(), mainWindow);
+    // A destroyed desktop does not leave a dangling pointer behind.
+    delete mainWindow;
+    QCOMPARE(global->desktop(), static_cast<QWidget *>(QApplication::desktop()));
+}
+
+void tst_GlobalImpl::parentWindowName()
+{
+    const GlobalImpl *global = GlobalImpl::getInstance();
+    MainScreen window;
+    auto *field = new QLabel(new QWidget(&window));
+    QCOMPARE(global->getParentWindowName(field), QStringLiteral("MainScreen"));
+    window.setObjectName(QStringLiteral("MeasurementScreen"));
+    QCOMPARE(global->getParentWindowName(field), QStringLiteral("MeasurementScreen"));
+    QCOMPARE(global->getParentWindowName(nullptr), QString());
+}
+
+void tst_GlobalImpl::screenRegistry()
+{
+    SystemModule *module = GlobalImpl::getInstance()->systemModule();
+    QVERIFY(module);
+    QSignalSpy registered(module, &SystemModule::systemScreenRegistered);
+
+    QCOMPARE(module->getSystemScreen(QStringLiteral("MainWindow")), nullptr);
+
+    auto *first = new QWidget;
+    QWidget second;
+    module->registerSystemScreen(QStringLiteral("MainWindow"), first);
+    module->registerSystemScreen(QStringLiteral("SimpleFileBrowser"), &second);
+    QCOMPARE(registered.count(), 2);
+    QCOMPARE(module->getSystemScreen(QStringLiteral("MainWindow")), first);
+    QCOMPARE(module->systemScreenNames(), (QStringList{"MainWindow", "SimpleFileBrowser"}));
+
+    delete first;
+    QCOMPARE(module->getSystemScreen(QStringLiteral("MainWindow")), nullptr);
+    QCOMPARE(module->systemScreenNames(), QStringList{"SimpleFileBrowser"});
+
+    // A null screen removes the name; so does unregistering.
+    module->registerSystemScreen(QStringLiteral("MainWindow"), &second);
+    QCOMPARE(module->getSystemScreen(QStringLiteral("MainWindow")), &second);
+    module->registerSystemScreen(QStringLiteral("MainWindow"), nullptr);
+    QCOMPARE(module->getSystemScreen(QStringLiteral("MainWindow")), nullptr);
+    module->unregisterSystemScreen(QStringLiteral("SimpleFileBrowser"));
+    QCOMPARE(module->systemScreenNames(), QStringList());
+    QCOMPARE(registered.count(), 3);
+}
+
+QTEST_MAIN(tst_GlobalImpl)
+#include "tst_GlobalImpl.moc"
