@@ -54,7 +54,8 @@ QString QKXPushButtonPrivate::styleTemplate()
 
 void QKXPushButtonPrivate::init()
 {
-    Q_Q(QKXPushButton);
+    // Runs inside the base constructor, before the QKXPushButton part exists: only the QWidget side
+    // of q may be used here.
     q->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
 
     button = new QPushButton(q);

@@ -17,6 +17,8 @@ class QLabel;
 class QMouseEvent;
 
 // Gives a Private derived from QKXWidgetBasePrivate a typed q_func() over the base's back pointer.
+// init() runs inside QKXWidgetBase's constructor, when the public object is not yet of the derived
+// type: there, work through the base pointer q, never through q_func() or Q_Q.
 #define KX_DECLARE_PUBLIC(Class)                                                           \
     inline Class *q_func() { return static_cast<Class *>(q); }                             \
     inline const Class *q_func() const { return static_cast<const Class *>(q); }           \
