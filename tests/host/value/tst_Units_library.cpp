@@ -1,0 +1,306 @@
+#include "NoRuleToConvert.h"
+#include "UnitDimensionNotSame.h"
+#include "Units_library.h"
+#include "Units_list.h"
+#include "ValueHelper.h"
+#include "Value_object.h"
+
+#include <QtTest>
+
+#include <cmath>
+#include <initializer_list>
+#include <limits>
+#include <utility>
+
+using namespace Norvane::Value;
+
+namespace {
+
+// A units property string: us(kilo, {{hertz, 1}}) is "0,3,1:1;0:0;0:0;0:0;0:0".
+QString us(int prefix, std::initializer_list<std::pair<int, int>> pairs)
+{
+    Unit_tuple tuple{};
+    int i = 0;
+    for (const auto &p : pairs)
+        tuple[i++] = {p.first, p.second};
+    return ValueHelper::toString(ValueHelper::newUnits(false, static_cast<SI_units>(prefix), &tuple));
+}
+
+Units units(const QString &s)
+{
+    return ValueHelper::convertToUnits(s);
+}
+
+QString exactText(double x)
+{
+    return QString::number(x, 'g', 17);
+}
+
+enum Failure { DimensionNotSame, NoRule, OtherValueError };
+
+} // namespace
+
+// Bit-for-bit comparison: QCOMPARE on doubles is fuzzy.
+#define COMPARE_EXACT(actual, expected)                                                                      \
+    do {                                                                                                     \
+        const double a_ = (actual);                                                                          \
+        const double e_ = (expected);                                                                        \
+        QVERIFY2(a_ == e_ || (std::isnan(a_) && std::isnan(e_)),                                             \
+                 qPrintable(exactText(a_) + QLatin1String(" != ") + exactText(e_)));                         \
+    } while (0)
+
+class tst_Units_library : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void unitText_data();
+    void unitText();
+    void unitTextRefused_data();
+    void unitTextRefused();
+    void prefixStepsRoundOnce_data();
+    void prefixStepsRoundOnce();
+    void conversions_data();
+    void conversions();
+    void conversionFailures_data();
+    void conversionFailures();
+    void errorBoundsFollowTheValue();
+    void integerValueObjects_data();
+    void integerValueObjects();
+};
+
+void tst_Units_library::unitText_data()
+{
+    QTest::addColumn<QString>("units");
+    QTest::addColumn<QString>("symbol");
+    QTest::addColumn<QString>("plain");
+
+    QTest::newRow("kHz") << us(kilo, {{hertz, 1}}) << "kHz" << "kHz";
+    QTest::newRow("micro") << us(micro, {{volt, 1}}) << QString::fromUtf8("\u00b5V") << "uV";
+    QTest::newRow("peta") << us(peta, {{hertz, 1}}) << "PHz" << "PHz";
+    QTest::newRow("ohm sign") << us(mega, {{ohm, 1}}) << QString::fromUtf8("M\u2126") << "MOhm";
+    QTest::newRow("dBuV") << us(0, {{decibel_microvolt, 1}}) << QString::fromUtf8("dB\u00b5V") << "dBuV";
+    QTest::newRow("V/m") << us(0, {{volt, 1}, {metre, -1}}) << "V/m" << "V/m";
+    QTest::newRow("kbit/s") << us(kilo, {{bit, 1}, {second, -1}}) << "kbit/s" << "kbit/s";
+    QTest::newRow("m/s2") << us(0, {{metre, 1}, {second, -2}}) << QString::fromUtf8("m/s\u00b2") << "m/s^2";
+    QTest::newRow("two below") << us(0, {{watt, 1}, {hertz, -1}, {metre, -2}})
+                               << QString::fromUtf8("W/(Hz\u00b7m\u00b2)") << "W/(Hz*m^2)";
+    QTest::newRow("only below") << us(0, {{second, -1}}) << QString::fromUtf8("s\u207b\u00b9") << "s^-1";
+    QTest::newRow("power 12") << us(0, {{metre, 12}}) << QString::fromUtf8("m\u00b9\u00b2") << "m^12";
+    QTest::newRow("empty pairs skipped") << us(0, {{none, 0}, {hertz, 0}, {watt, 1}}) << "W" << "W";
+    QTest::newRow("plain number") << us(0, {}) << "" << "";
+    QTest::newRow("prefixed number") << us(kilo, {}) << "k" << "k";
+}
+
+void tst_Units_library::unitText()
+{
+    QFETCH(QString, units);
+    QFETCH(QString, symbol);
+    QFETCH(QString, plain);
+    QCOMPARE(QString::fromStdString(Units_library::Get_unit_string(::units(units), Units_library::Symbol_text)), symbol);
+    QCOMPARE(QString::fromStdString(Units_library::Get_unit_string(::units(units), Units_library::Plain_text)), plain);
+}
+
+void tst_Units_library::unitTextRefused_data()
+{
+    QTest::addColumn<QString>("units");
+    QTest::addColumn<int>("type");
+
+    QTest::newRow("unknown unit") << us(0, {{units_list_end, 1}}) << 1;
+    QTest::newRow("unknown unit, power 0") << us(0, {{hertz, 1}, {99, 0}}) << 1;
+    QTest::newRow("centi") << us(-2, {{metre, 1}}) << 1;
+    QTest::newRow("exa") << us(18, {{hertz, 1}}) << 1;
+    QTest::newRow("kdBm") << us(kilo, {{decibel_milliwatt, 1}}) << 1;
+    QTest::newRow("type 3") << us(0, {{hertz, 1}}) << 3;
+}
+
+void tst_Units_library::unitTextRefused()
+{
+    QFETCH(QString, units);
+    QFETCH(int, type);
+    QVERIFY_EXCEPTION_THROWN(Units_library::Get_unit_string(::units(units), type), Value_exception);
+}
+
+void tst_Units_library::prefixStepsRoundOnce_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::addColumn<double>("expected");
+
+    // Rows where multiplying by the rounded reciprocal (9 * 0.001) is one unit in the last place off.
+    QTest::newRow("9 mV") << 9.0 << int(milli) << 0 << 0.009;
+    QTest::newRow("3 nHz") << 3.0 << int(nano) << 0 << 3e-9;
+    QTest::newRow("11 pHz") << 11.0 << int(pico) << 0 << 1.1e-11;
+    QTest::newRow("1500 to k") << 1500.0 << 0 << int(kilo) << 1.5;
+    QTest::newRow("pico to peta") << 3.0 << int(pico) << int(peta) << 3e-27;
+    QTest::newRow("peta to pico") << 7.0 << int(peta) << int(pico) << 7e27;
+    QTest::newRow("44 decades") << 1.0 << -22 << 22 << 1e-44;
+    QTest::newRow("overflow") << 1e300 << 300 << 0 << std::numeric_limits<double>::infinity();
+    QTest::newRow("far beyond") << 1.0 << std::numeric_limits<int>::min() << std::numeric_limits<int>::max() << 0.0;
+}
+
+void tst_Units_library::prefixStepsRoundOnce()
+{
+    QFETCH(double, value);
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QFETCH(double, expected);
+    COMPARE_EXACT(Units_library::Convert(value, units(us(from, {{hertz, 1}})), units(us(to, {{hertz, 1}}))), expected);
+}
+
+void tst_Units_library::conversions_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("to");
+    QTest::addColumn<double>("expected");
+    QTest::addColumn<bool>("exact");
+
+    const QString W = us(0, {{watt, 1}});
+    const QString mW = us(milli, {{watt, 1}});
+    const QString dBm = us(0, {{decibel_milliwatt, 1}});
+    const QString dBW = us(0, {{decibel_watt, 1}});
+    const QString dBuV = us(0, {{decibel_microvolt, 1}});
+    const QString V = us(0, {{volt, 1}});
+    const QString dB = us(0, {{decibel, 1}});
+    const QString ratio = us(0, {});
+
+    QTest::newRow("30 dBm in W") << 30.0 << dBm << W << 1.0 << true;
+    QTest::newRow("0 dBm in W") << 0.0 << dBm << W << 0.001 << true;
+    QTest::newRow("-30 dBm in W") << -30.0 << dBm << W << 1e-6 << true;
+    QTest::newRow("10 dBm in mW") << 10.0 << dBm << mW << 10.0 << true;
+    QTest::newRow("1 W in dBm") << 1.0 << W << dBm << 30.0 << true;
+    QTest::newRow("1 mW in dBm") << 1.0 << mW << dBm << 0.0 << true;
+    QTest::newRow("0.001 W in dBm") << 0.001 << W << dBm << 0.0 << true;
+    QTest::newRow("0 W in dBm") << 0.0 << W << dBm << -std::numeric_limits<double>::infinity() << true;
+    QTest::newRow("dBm in dBW") << -30.0 << dBm << dBW << -60.0 << true;
+    QTest::newRow("120 dBuV in V") << 120.0 << dBuV << V << 1.0 << true;
+    QTest::newRow("1 mV in dBuV") << 1.0 << us(milli, {{volt, 1}}) << dBuV << 60.0 << true;
+    QTest::newRow("20 dB as ratio") << 20.0 << dB << ratio << 100.0 << true;
+    QTest::newRow("3 dB as ratio") << 3.0 << dB << ratio << 1.9952623149688795 << false;
+    QTest::newRow("0 dB in percent") << 0.0 << dB << us(0, {{percent, 1}}) << 100.0 << true;
+    QTest::newRow("dBm/Hz in W/Hz") << -30.0 << us(0, {{decibel_milliwatt, 1}, {hertz, -1}})
+                                    << us(0, {{watt, 1}, {hertz, -1}}) << 1e-6 << true;
+    QTest::newRow("Hz as 1/s") << 5.0 << us(kilo, {{hertz, 1}}) << us(0, {{second, -1}}) << 5000.0 << true;
+    QTest::newRow("ppm") << 2.5 << us(0, {{parts_per_million, 1}}) << us(0, {{percent, 1}}) << 0.00025 << true;
+    QTest::newRow("KiB in kB") << 1.0 << us(0, {{kibibyte, 1}}) << us(kilo, {{byte, 1}}) << 1.024 << true;
+    QTest::newRow("YiB in B") << 1.0 << us(0, {{yobibyte, 1}}) << us(0, {{byte, 1}}) << std::ldexp(1.0, 80) << true;
+    QTest::newRow("Mbit/s in B/s") << 1.0 << us(mega, {{bit, 1}, {second, -1}}) << us(0, {{byte, 1}, {second, -1}})
+                                   << 125000.0 << true;
+}
+
+void tst_Units_library::conversions()
+{
+    QFETCH(double, value);
+    QFETCH(QString, from);
+    QFETCH(QString, to);
+    QFETCH(double, expected);
+    QFETCH(bool, exact);
+    const double result = Units_library::Convert(value, units(from), units(to));
+    if (exact)
+        COMPARE_EXACT(result, expected);
+    else
+        QCOMPARE(result, expected);
+}
+
+void tst_Units_library::conversionFailures_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("to");
+    QTest::addColumn<int>("failure");
+
+    QTest::newRow("Hz to V") << 1.0 << us(0, {{hertz, 1}}) << us(0, {{volt, 1}}) << int(DimensionNotSame);
+    QTest::newRow("dBm to dBuV") << 1.0 << us(0, {{decibel_milliwatt, 1}}) << us(0, {{decibel_microvolt, 1}})
+                                 << int(DimensionNotSame);
+    QTest::newRow("bit to percent") << 1.0 << us(0, {{bit, 1}}) << us(0, {{percent, 1}}) << int(DimensionNotSame);
+    QTest::newRow("Hz to bit/s") << 1.0 << us(0, {{hertz, 1}}) << us(0, {{bit, 1}, {second, -1}}) << int(DimensionNotSame);
+    QTest::newRow("dBc to dB") << 1.0 << us(0, {{decibel_carrier, 1}}) << us(0, {{decibel, 1}}) << int(NoRule);
+    QTest::newRow("dBc to ratio") << 1.0 << us(0, {{decibel_carrier, 1}}) << us(0, {}) << int(NoRule);
+    QTest::newRow("dBm squared") << 1.0 << us(0, {{decibel_milliwatt, 2}}) << us(0, {{watt, 2}}) << int(NoRule);
+    QTest::newRow("unknown unit") << 1.0 << us(0, {{99, 1}}) << us(0, {{hertz, 1}}) << int(NoRule);
+    QTest::newRow("negative power as dBm") << -1.0 << us(0, {{watt, 1}}) << us(0, {{decibel_milliwatt, 1}})
+                                           << int(OtherValueError);
+}
+
+void tst_Units_library::conversionFailures()
+{
+    QFETCH(double, value);
+    QFETCH(QString, from);
+    QFETCH(QString, to);
+    QFETCH(int, failure);
+    try {
+        Units_library::Convert(value, units(from), units(to));
+        QFAIL("converted");
+    } catch (const UnitDimensionNotSame &) {
+        QCOMPARE(failure, int(DimensionNotSame));
+    } catch (const NoRuleToConvert &) {
+        QCOMPARE(failure, int(NoRule));
+    } catch (const Value_exception &) {
+        QCOMPARE(failure, int(OtherValueError));
+    }
+}
+
+void tst_Units_library::errorBoundsFollowTheValue()
+{
+    // Prefix steps scale the bounds; level conversions map the interval's ends, so the bounds of
+    // 0 dBm +3/-3 dB are no longer symmetric in watts.
+    Value_object<double> f(1.0, units(us(kilo, {{hertz, 1}})), 0.01, 0.02);
+    f.Convert_to(units(us(0, {{hertz, 1}})));
+    COMPARE_EXACT(f.Get_value(), 1000.0);
+    COMPARE_EXACT(f.Get_plus_err(), 10.0);
+    COMPARE_EXACT(f.Get_minus_err(), 20.0);
+
+    Value_object<double> p(0.0, units(us(0, {{decibel_milliwatt, 1}})), 10.0, 10.0);
+    p.Convert_to(units(us(milli, {{watt, 1}})));
+    COMPARE_EXACT(p.Get_value(), 1.0);
+    COMPARE_EXACT(p.Get_plus_err(), 9.0);
+    COMPARE_EXACT(p.Get_minus_err(), 0.9);
+
+    // An end below zero watts has no level: that bound becomes infinite instead of failing.
+    Value_object<double> w(1.0, units(us(0, {{watt, 1}})), 0.0, 2.0);
+    w.Convert_to(units(us(0, {{decibel_watt, 1}})));
+    COMPARE_EXACT(w.Get_value(), 0.0);
+    QVERIFY(std::isinf(w.Get_minus_err()));
+}
+
+void tst_Units_library::integerValueObjects_data()
+{
+    QTest::addColumn<long>("value");
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::addColumn<long>("expected");
+    QTest::addColumn<bool>("thrown");
+
+    QTest::newRow("1500 to k") << 1500L << 0 << int(kilo) << 2L << false;
+    QTest::newRow("half away from zero") << 2500L << 0 << int(kilo) << 3L << false;
+    QTest::newRow("half away from zero, negative") << -2500L << 0 << int(kilo) << -3L << false;
+    QTest::newRow("largest, same prefix") << std::numeric_limits<long>::max() << 0 << 0
+                                          << std::numeric_limits<long>::max() << false;
+    QTest::newRow("beyond 2^53") << 9007199254740993L << 0 << int(milli) << 9007199254740993000L << false;
+    QTest::newRow("beyond 2^53, down") << 9007199254740993L << int(milli) << 0 << 9007199254741L << false;
+    QTest::newRow("too large") << 9000000000000000000L << 0 << int(milli) << 0L << true;
+    QTest::newRow("too small") << -9000000000000000000L << int(kilo) << 0 << 0L << true;
+}
+
+void tst_Units_library::integerValueObjects()
+{
+    QFETCH(long, value);
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QFETCH(long, expected);
+    QFETCH(bool, thrown);
+    Value_object<long> v(value, units(us(from, {{hertz, 1}})), 0, 0);
+    if (thrown) {
+        QVERIFY_EXCEPTION_THROWN(v.Convert_to(units(us(to, {{hertz, 1}}))), Value_exception);
+        QCOMPARE(v.Get_value(), value); // untouched
+        QCOMPARE(int(v.Get_unit().prefix), from);
+    } else {
+        v.Convert_to(units(us(to, {{hertz, 1}})));
+        QCOMPARE(v.Get_value(), expected);
+    }
+}
+
+QTEST_APPLESS_MAIN(tst_Units_library)
+#include "tst_Units_library.moc"
