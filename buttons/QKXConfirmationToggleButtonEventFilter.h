@@ -1,0 +1,35 @@
+#ifndef QKXCONFIRMATIONTOGGLEBUTTONEVENTFILTER_H
+#define QKXCONFIRMATIONTOGGLEBUTTONEVENTFILTER_H
+
+#include "QKXEventFilterBase.h"
+
+// Edit filter of a confirmation toggle: a tap in a direction that PromptStyle guards shows the
+// button's prompt first, and only a confirming answer asks for the edit lock; the switch then goes
+// out as from a plain toggle (loading look, opposite state submitted).
+class STANDALONEPLUGINS_EXPORT QKXConfirmationToggleButtonEventFilter : public QKXEventFilterBase
+{
+    Q_OBJECT
+public:
+    explicit QKXConfirmationToggleButtonEventFilter(QObject *parent);
+    ~QKXConfirmationToggleButtonEventFilter() override;
+
+    // Kept for hosts that call it by name; the state only ever changes through the engine.
+    Q_INVOKABLE void submitWidgetValue(bool state);
+
+public Q_SLOTS:
+    void lockAcquired(QWidget *widget) override;
+    // Modal: returns once the prompt is answered; true for the answer with code 1.
+    bool displayPrompt(QWidget *widget);
+
+Q_SIGNALS:
+    void submit(bool value);
+
+protected:
+    bool mousePressEventFilter(QObject *watched, QMouseEvent *event) override;
+    bool mouseReleaseEventFilter(QObject *watched, QMouseEvent *event) override;
+
+private:
+    Q_DISABLE_COPY(QKXConfirmationToggleButtonEventFilter)
+};
+
+#endif // QKXCONFIRMATIONTOGGLEBUTTONEVENTFILTER_H

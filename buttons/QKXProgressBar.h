@@ -1,0 +1,32 @@
+#ifndef QKXPROGRESSBAR_H
+#define QKXPROGRESSBAR_H
+
+#include "QKXWidgetBase.h"
+
+class QKXProgressBarPrivate;
+
+// A read-only bar with a caption for an integer engine value, in a compact ("Min") and a large
+// ("Max") look.
+class STANDALONEPLUGINS_EXPORT QKXProgressBar : public QKXWidgetBase
+{
+    Q_OBJECT
+    Q_PROPERTY(int Value READ value WRITE setValue DESIGNABLE true STORED true)
+
+public:
+    explicit QKXProgressBar(QWidget *parent = nullptr);
+    ~QKXProgressBar() override;
+
+    Q_INVOKABLE int value() const;
+
+public Q_SLOTS:
+    void setValue(int value);
+    // For engines that publish progress as a floating-point number: the value is taken toward zero;
+    // NaN, the infinities and values beyond int are refused and the bar keeps what it shows.
+    void setValue(double value);
+
+private:
+    Q_DISABLE_COPY(QKXProgressBar)
+    Q_DECLARE_PRIVATE(QKXProgressBar)
+};
+
+#endif // QKXPROGRESSBAR_H

@@ -1,0 +1,213 @@
+// Mouse events travel through the window system, as a finger on the panel does.
+#define QTEST_QPA_MOUSE_HANDLING
+#include <QtTest>
+
+#include <QPushButton>
+
+#include "ButtonTestSupport.h"
+#include "GlobalImpl.h"
+#include "QKXBrowseButton.h"
+#include "QKXBrowseButtonEventFilter.h"
+#include "SystemModule.h"
+
+using namespace kxtest;
+
+namespace {
+
+// The host's file browser, as far as the filter knows it: two signals.
+class Browser : public QWidget
+{
+    Q_OBJECT
+public:
+    using QWidget::QWidget;
+Q_SIGNALS:
+    void fileSelected(const QString &path);
+    void cancelled();
+};
+
+SystemModule *screens()
+{
+    return GlobalImpl::getInstance()->systemModule();
+}
+
+// Two browse buttons on a screen, each with the host's filter and a host that grants every request;
+// what the filters submit lands in one log.
+struct Stage
+{
+    Stage()
+    {
+        screen.resize(300, 200);
+        screens()->registerSystemScreen(QStringLiteral("SimpleFileBrowser"), &browser);
+        for (int i = 0; i < 2; ++i) {
+            buttons[i] = new QKXBrowseButton(&screen);
+            buttons[i]->setGeometry(10, 10 + 70 * i, 200, 60);
+            filters[i] = new QKXBrowseButtonEventFilter(buttons[i]);
+            buttons[i]->installEventFilter(filters[i]);
+            const QString name = QStringLiteral("button %1").arg(i + 1);
+            QObject::connect(filters[i], &QKXBrowseButtonEventFilter::submit,
+                             [this, name](const QString &file) { log << name + QStringLiteral(" submits ") + file; });
+            QObject::connect(filters[i], &QKXEventFilterBase::attemptSetLock, [this, i, name](QWidget *w, bool locked) {
+                log << name + (locked ? QStringLiteral(" request") : QStringLiteral(" release"));
+                if (locked)
+                    filters[i]->lockAcquired(w);
+            });
+        }
+        screen.show();
+    }
+    ~Stage() { screens()->unregisterSystemScreen(QStringLiteral("SimpleFileBrowser")); }
+
+    void tap(int i) { QTest::mouseClick(buttons[i]->findChild<QPushButton *>(), Qt::LeftButton); }
+
+    QWidget screen;
+    Browser browser;
+    QKXBrowseButton *buttons[2];
+    QKXBrowseButtonEventFilter *filters[2];
+    QStringList log;
+};
+
+} // namespace
+
+class tst_QKXBrowseButton : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void filename();
+    void browserRoads_data();
+    void browserRoads();
+    void latestButtonTakesOver();
+    void withoutBrowser_data();
+    void withoutBrowser();
+    void browserGoneWhileListening();
+};
+
+void tst_QKXBrowseButton::filename()
+{
+    QKXBrowseButton b;
+    QSignalSpy changed(&b, &QKXBrowseButton::filenameChanged);
+    QCOMPARE(b.filename(), QString());
+    QVERIFY(QMetaObject::invokeMethod(&b, "setFilename", Q_ARG(QString, QStringLiteral("/data/setup.cfg"))));
+    b.setFilename(QStringLiteral("/data/setup.cfg"));
+    QCOMPARE(changed.count(), 2);
+    QCOMPARE(changed.at(1).at(0).toString(), QStringLiteral("/data/setup.cfg"));
+    QString name;
+    QVERIFY(QMetaObject::invokeMethod(&b, "filename", Q_RETURN_ARG(QString, name)));
+    QCOMPARE(name, QStringLiteral("/data/setup.cfg"));
+    // Still a push button: the caption is the button's text.
+    QVERIFY(b.setProperty("LabelText", QStringLiteral("Load")));
+    QCOMPARE(b.findChild<QPushButton *>()->text(), QStringLiteral("Load"));
+}
+
+void tst_QKXBrowseButton::browserRoads_data()
+{
+    QTest::addColumn<QStringList>("browserSays");
+    QTest::addColumn<QStringList>("expected");
+
+    QTest::newRow("file chosen") << QStringList{"/data/setup.cfg", "/data/other.cfg"}
+                                 << QStringList{"button 1 submits /data/setup.cfg"};
+    QTest::newRow("empty name") << QStringList{"", "/data/setup.cfg"} << QStringList();
+    QTest::newRow("cancelled") << QStringList{"<cancel>", "/data/setup.cfg"} << QStringList();
+}
+
+void tst_QKXBrowseButton::browserRoads()
+{
+    QFETCH(QStringList, browserSays);
+    QFETCH(QStringList, expected);
+
+    Stage s;
+    QVERIFY(QTest::qWaitForWindowExposed(&s.screen));
+    s.tap(0);
+    // The lock is handed back at once: the browser is the host's to show.
+    QCOMPARE(s.log, (QStringList{"button 1 request", "button 1 release"}));
+
+    // Only the first answer after a granted tap counts.
+    s.log.clear();
+    for (const QString &said : browserSays) {
+        if (said == QLatin1String("<cancel>"))
+            emit s.browser.cancelled();
+        else
+            emit s.browser.fileSelected(said);
+    }
+    QCOMPARE(s.log, expected);
+
+    // The next granted tap listens again.
+    s.log.clear();
+    s.tap(0);
+    emit s.browser.fileSelected(QStringLiteral("/data/again.cfg"));
+    QCOMPARE(s.log, (QStringList{"button 1 request", "button 1 release", "button 1 submits /data/again.cfg"}));
+}
+
+void tst_QKXBrowseButton::latestButtonTakesOver()
+{
+    Stage s;
+    QVERIFY(QTest::qWaitForWindowExposed(&s.screen));
+    // Whoever listened to the browser before a granted tap stops listening, whoever it was.
+    QStringList earlier;
+    QObject::connect(&s.browser, &Browser::fileSelected, [&earlier](const QString &f) { earlier << f; });
+    s.tap(0);
+    s.tap(1);
+    s.log.clear();
+    emit s.browser.fileSelected(QStringLiteral("/data/b.cfg"));
+    QCOMPARE(s.log, QStringList{"button 2 submits /data/b.cfg"});
+    QCOMPARE(earlier, QStringList());
+
+    // A grant that is not for the filter's own button changes nothing.
+    s.filters[0]->lockAcquired(s.buttons[1]);
+    s.log.clear();
+    s.tap(1);
+    s.log.clear();
+    emit s.browser.fileSelected(QStringLiteral("/data/c.cfg"));
+    QCOMPARE(s.log, QStringList{"button 2 submits /data/c.cfg"});
+}
+
+void tst_QKXBrowseButton::withoutBrowser_data()
+{
+    QTest::addColumn<bool>("plainScreen");
+    QTest::addColumn<QString>("line");
+    QTest::newRow("none registered") << false
+                                     << "UserInterface - QKXBrowseButtonEventFilter::lockAcquired : no SimpleFileBrowser "
+                                        "screen; no file can be chosen.";
+    QTest::newRow("screen without signals") << true
+                                            << "UserInterface - QKXBrowseButtonEventFilter::lockAcquired : the "
+                                               "SimpleFileBrowser screen has no fileSelected(QString) or cancelled() "
+                                               "signal; no file can be chosen.";
+}
+
+void tst_QKXBrowseButton::withoutBrowser()
+{
+    QFETCH(bool, plainScreen);
+    QFETCH(QString, line);
+
+    DebugLines debug;
+    Stage s;
+    QWidget plain;
+    if (plainScreen)
+        screens()->registerSystemScreen(QStringLiteral("SimpleFileBrowser"), &plain);
+    else
+        screens()->unregisterSystemScreen(QStringLiteral("SimpleFileBrowser"));
+    QVERIFY(QTest::qWaitForWindowExposed(&s.screen));
+    s.tap(0);
+    // The lock still goes back.
+    QCOMPARE(s.log, (QStringList{"button 1 request", "button 1 release"}));
+    QCOMPARE(DebugLines::lines(), QStringList{line});
+}
+
+void tst_QKXBrowseButton::browserGoneWhileListening()
+{
+    Stage s;
+    QVERIFY(QTest::qWaitForWindowExposed(&s.screen));
+    auto *replaced = new Browser;
+    screens()->registerSystemScreen(QStringLiteral("SimpleFileBrowser"), replaced);
+    s.tap(0);
+    delete replaced;
+
+    // A new browser works with the next tap.
+    screens()->registerSystemScreen(QStringLiteral("SimpleFileBrowser"), &s.browser);
+    s.log.clear();
+    s.tap(0);
+    emit s.browser.fileSelected(QStringLiteral("/data/new.cfg"));
+    QCOMPARE(s.log, (QStringList{"button 1 request", "button 1 release", "button 1 submits /data/new.cfg"}));
+}
+
+QTEST_MAIN(tst_QKXBrowseButton)
+#include "tst_QKXBrowseButton.moc"

@@ -1,0 +1,290 @@
+// Mouse events travel through the window system, as a finger on the panel does.
+#define QTEST_QPA_MOUSE_HANDLING
+#include <QtTest>
+
+#include <QPushButton>
+
+#include "ButtonTestSupport.h"
+#include "GlobalImpl.h"
+#include "QKXConfirmationPushButton.h"
+#include "QKXConfirmationPushButtonEventFilter.h"
+#include "QKXPushButton.h"
+#include "SystemModule.h"
+
+using namespace kxtest;
+
+namespace {
+
+// The host's top container: prompts close when it announces that the window closes.
+class TopContainer : public QWidget
+{
+    Q_OBJECT
+public:
+    using QWidget::QWidget;
+Q_SIGNALS:
+    void WindowClosed();
+};
+
+const QStringList Click{"clicked", "buttonPressed PushButton"};
+const QStringList Command{"request", "submit", "release"};
+
+// A confirmation button under the top container of a main window, with the host's filter and a host
+// that grants every lock request at once. Everything lands in one ordered log.
+struct Stage
+{
+    explicit Stage(bool registerMain = true, const QString &topName = QStringLiteral("TopContainerObject"))
+        : answerer(log)
+    {
+        main.resize(480, 320);
+        if (registerMain)
+            GlobalImpl::getInstance()->systemModule()->registerSystemScreen(QStringLiteral("MainWindow"), &main);
+        top = new TopContainer(&main);
+        top->setObjectName(topName);
+        top->setGeometry(0, 0, 480, 320);
+        button = new QKXConfirmationPushButton(top);
+        button->setGeometry(20, 20, 200, 60);
+        button->setTitleText(QStringLiteral("Preset"));
+        button->setDialogText(QStringLiteral("Reset all settings?"));
+        filter = new QKXConfirmationPushButtonEventFilter(button);
+        button->installEventFilter(filter);
+        inner = button->findChild<QPushButton *>(QStringLiteral("PushButton"));
+
+        QObject::connect(button, &QKXPushButton::clicked, [this] { log << QStringLiteral("clicked"); });
+        QObject::connect(button, &QKXPushButton::buttonPressed,
+                         [this](const QString &name) { log << QStringLiteral("buttonPressed ") + name; });
+        QObject::connect(filter, &QKXConfirmationPushButtonEventFilter::submit, [this] { log << QStringLiteral("submit"); });
+        QObject::connect(filter, &QKXEventFilterBase::showGuiLockedMessage, [this] { log << QStringLiteral("gui locked"); });
+        QObject::connect(filter, &QKXEventFilterBase::attemptSetLock, [this](QWidget *w, bool locked) {
+            log << (w != button ? QStringLiteral("foreign lock") : locked ? QStringLiteral("request")
+                                                                          : QStringLiteral("release"));
+            if (locked)
+                filter->lockAcquired(w);
+        });
+        main.show();
+    }
+    ~Stage()
+    {
+        answerer.stop();
+        GlobalImpl::getInstance()->systemModule()->unregisterSystemScreen(QStringLiteral("MainWindow"));
+    }
+
+    QWidget main;
+    TopContainer *top;
+    QKXConfirmationPushButton *button;
+    QKXConfirmationPushButtonEventFilter *filter;
+    QPushButton *inner;
+    QStringList log;
+    PromptAnswerer answerer;
+};
+
+QString prompt(const QString &keys)
+{
+    return QStringLiteral("prompt Preset|Reset all settings?|") + keys;
+}
+
+} // namespace
+
+class tst_QKXConfirmationPushButton : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void properties();
+    void promptRoads_data();
+    void promptRoads();
+    void guiLockedShowsNoPrompt();
+    void dragShowsNoPrompt();
+    void degradedPrompts_data();
+    void degradedPrompts();
+    void filterOnPlainButton();
+    void buttonGoneWhilePromptOpen();
+};
+
+void tst_QKXConfirmationPushButton::properties()
+{
+    QKXConfirmationPushButton b;
+    QCOMPARE(b.property("ButtonStyle").toInt(), 1);
+    QCOMPARE(b.property("PromptStyle").toInt(), 1);
+    QVERIFY(b.setProperty("ButtonStyle", 3));
+    QVERIFY(b.setProperty("DialogText", QStringLiteral("Erase?")));
+    int buttonStyle = 0;
+    QString text;
+    QVERIFY(QMetaObject::invokeMethod(&b, "buttonStyle", Q_RETURN_ARG(int, buttonStyle)));
+    QVERIFY(QMetaObject::invokeMethod(&b, "dialogText", Q_RETURN_ARG(QString, text)));
+    QCOMPARE(buttonStyle, 3);
+    QCOMPARE(text, QStringLiteral("Erase?"));
+    // A value of the wrong type is refused and the old one kept.
+    QVERIFY(!b.setProperty("ButtonStyle", QStringLiteral("Yes/No")));
+    QCOMPARE(b.buttonStyle(), 3);
+}
+
+void tst_QKXConfirmationPushButton::promptRoads_data()
+{
+    QTest::addColumn<int>("buttonStyle");
+    QTest::addColumn<int>("promptStyle");
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<QStringList>("expected");
+
+    QTest::newRow("new button, Yes") << 1 << 1 << "Yes" << QStringList{prompt("No/Yes")} + Command + Click;
+    QTest::newRow("new button, No") << 1 << 1 << "No" << QStringList{prompt("No/Yes")} + Click;
+    QTest::newRow("Cancel/OK, OK") << 0 << 1 << "OK" << QStringList{prompt("Cancel/OK")} + Command + Click;
+    QTest::newRow("Cancel/OK, Cancel") << 0 << 1 << "Cancel" << QStringList{prompt("Cancel/OK")} + Click;
+    QTest::newRow("notice never confirms") << 2 << 1 << "OK" << QStringList{prompt("OK")} + Click;
+    QTest::newRow("single OK confirms") << 3 << 1 << "OK" << QStringList{prompt("OK")} + Command + Click;
+    QTest::newRow("no prompt") << 1 << 0 << "" << Command + Click;
+    QTest::newRow("negative: prompt only") << 1 << -1 << "Yes" << QStringList{prompt("No/Yes")} + Click;
+    QTest::newRow("any positive prompts") << 1 << 7 << "Yes" << QStringList{prompt("No/Yes")} + Command + Click;
+    QTest::newRow("window closed") << 1 << 1 << "<window closed>" << QStringList{prompt("No/Yes")} + Click;
+}
+
+void tst_QKXConfirmationPushButton::promptRoads()
+{
+    QFETCH(int, buttonStyle);
+    QFETCH(int, promptStyle);
+    QFETCH(QString, answer);
+    QFETCH(QStringList, expected);
+
+    Stage s;
+    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
+    s.button->setButtonStyle(buttonStyle);
+    s.button->setPromptStyle(promptStyle);
+    if (answer == QLatin1String("<window closed>"))
+        s.answerer.answerWith(answer, [&s](ContainerDialog *) { emit s.top->WindowClosed(); });
+    else
+        s.answerer.answerWith(answer);
+
+    QTest::mouseClick(s.inner, Qt::LeftButton);
+    s.answerer.stop();
+    QCOMPARE(s.log, expected);
+
+    if (s.answerer.seenText) {
+        // Over the main window, question top left and wrapped; deleted once answered.
+        QCOMPARE(s.answerer.seenParent, &s.main);
+        QCOMPARE(s.answerer.textAlignment, Qt::Alignment(0x21));
+        QVERIFY(s.answerer.textWraps);
+        QVERIFY(!s.answerer.closeKeyShown);
+        QVERIFY(!s.answerer.seen);
+    }
+    QVERIFY(!PromptAnswerer::openDialog());
+    QVERIFY(!s.inner->isDown());
+}
+
+void tst_QKXConfirmationPushButton::guiLockedShowsNoPrompt()
+{
+    Stage s;
+    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
+    s.answerer.answerWith(QStringLiteral("Yes"));
+    qApp->setProperty("guilocked", true);
+    QTest::mouseClick(s.inner, Qt::LeftButton);
+    qApp->setProperty("guilocked", QVariant());
+    s.answerer.stop();
+    // The release is swallowed: no click, and the button does not stay held down.
+    QCOMPARE(s.log, QStringList{"gui locked"});
+    QVERIFY(!s.inner->isDown());
+}
+
+void tst_QKXConfirmationPushButton::dragShowsNoPrompt()
+{
+    Stage s;
+    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
+    s.answerer.answerWith(QStringLiteral("Yes"));
+    const QPoint start(20, s.inner->height() / 2);
+    QTest::mousePress(s.inner, Qt::LeftButton, Qt::NoModifier, start);
+    QTest::mouseMove(s.inner, start + QPoint(31, 0));
+    QTest::mouseRelease(s.inner, Qt::LeftButton, Qt::NoModifier, start + QPoint(31, 0));
+    s.answerer.stop();
+    QCOMPARE(s.log.filter(QStringLiteral("prompt")), QStringList());
+    QCOMPARE(s.log.filter(QStringLiteral("request")), QStringList());
+}
+
+void tst_QKXConfirmationPushButton::degradedPrompts_data()
+{
+    QTest::addColumn<int>("buttonStyle");
+    QTest::addColumn<bool>("registerMain");
+    QTest::addColumn<QString>("topName");
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<QStringList>("expected");
+    QTest::addColumn<QString>("line");
+
+    const QString filter = QStringLiteral("UserInterface - QKXConfirmationPushButtonEventFilter::");
+    // No answer keys, but a way out: the title bar's close key, which does not confirm.
+    QTest::newRow("ButtonStyle without answers") << 4 << true << "TopContainerObject" << "<close key>"
+                                                 << QStringList{prompt("")} + Click
+                                                 << filter + "displayPrompt : ButtonStyle 4 offers no answer; only "
+                                                             "closing the prompt ends it.";
+    QTest::newRow("no top container") << 1 << true << "Panel" << "Yes" << QStringList{prompt("No/Yes")} + Command + Click
+                                      << filter + "displayDialog : no TopContainerObject above the widget; closing the "
+                                                  "window cannot cancel the prompt.";
+    // The prompt opens as a window of its own and still works.
+    QTest::newRow("no main window") << 1 << false << "TopContainerObject" << "Yes"
+                                    << QStringList{prompt("No/Yes")} + Command + Click
+                                    << filter + "displayDialog : no MainWindow screen; the prompt opens on its own.";
+}
+
+void tst_QKXConfirmationPushButton::degradedPrompts()
+{
+    QFETCH(int, buttonStyle);
+    QFETCH(bool, registerMain);
+    QFETCH(QString, topName);
+    QFETCH(QString, answer);
+    QFETCH(QStringList, expected);
+    QFETCH(QString, line);
+
+    DebugLines debug;
+    Stage s(registerMain, topName);
+    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
+    s.button->setButtonStyle(buttonStyle);
+    s.answerer.answerWith(answer);
+    QTest::mouseClick(s.inner, Qt::LeftButton);
+    s.answerer.stop();
+    QCOMPARE(s.log, expected);
+    QCOMPARE(s.answerer.closeKeyShown, buttonStyle == 4);
+    QCOMPARE(s.answerer.seenParent, registerMain ? &s.main : nullptr);
+    QCOMPARE(DebugLines::lines(), QStringList{line});
+}
+
+void tst_QKXConfirmationPushButton::filterOnPlainButton()
+{
+    // A host that puts the filter on a widget without prompt properties still gets a No/Yes prompt.
+    DebugLines debug;
+    Stage s;
+    auto *plain = new QKXPushButton(s.top);
+    plain->setGeometry(20, 100, 200, 60);
+    plain->show();
+    auto *filter = new QKXConfirmationPushButtonEventFilter(plain);
+    plain->installEventFilter(filter);
+    QStringList log;
+    QObject::connect(filter, &QKXEventFilterBase::attemptSetLock,
+                     [&log](QWidget *, bool locked) { log << (locked ? "request" : "release"); });
+    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
+    PromptAnswerer answerer(log);
+    answerer.answerWith(QStringLiteral("Yes"));
+    QTest::mouseClick(plain->findChild<QPushButton *>(), Qt::LeftButton);
+    answerer.stop();
+    QCOMPARE(log, (QStringList{"prompt ||No/Yes", "request"}));
+    QCOMPARE(DebugLines::lines(),
+             (QStringList{"UserInterface - QKXConfirmationPushButtonEventFilter::mouseReleaseEventFilter : "
+                          "QKXPushButton has no PromptStyle; prompting as PromptStyle 1.",
+                          "UserInterface - QKXConfirmationPushButtonEventFilter::displayPrompt : QKXPushButton has no "
+                          "buttonStyle(); asking No/Yes."}));
+}
+
+void tst_QKXConfirmationPushButton::buttonGoneWhilePromptOpen()
+{
+    Stage s;
+    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
+    QPointer<QKXConfirmationPushButton> button(s.button);
+    // The screen drops the button while the question is open, then the window closes.
+    s.answerer.answerWith(QString(), [&s](ContainerDialog *) {
+        s.button->deleteLater();
+        QTimer::singleShot(0, s.top, [&s] { emit s.top->WindowClosed(); });
+    });
+    QTest::mouseClick(s.inner, Qt::LeftButton);
+    s.answerer.stop();
+    QVERIFY(!button);
+    QCOMPARE(s.log, QStringList{prompt("No/Yes")});
+    QVERIFY(!PromptAnswerer::openDialog());
+}
+
+QTEST_MAIN(tst_QKXConfirmationPushButton)
+#include "tst_QKXConfirmationPushButton.moc"

@@ -1,0 +1,196 @@
+// Mouse events travel through the window system, as a finger on the panel does.
+#define QTEST_QPA_MOUSE_HANDLING
+#include <QtTest>
+
+#include <QLabel>
+#include <QPushButton>
+
+#include "ButtonTestSupport.h"
+#include "GlobalImpl.h"
+#include "QKXConfirmationToggleButton.h"
+#include "QKXConfirmationToggleButtonEventFilter.h"
+#include "SystemModule.h"
+
+using namespace kxtest;
+
+namespace {
+
+// The host's top container: prompts close when it announces that the window closes.
+class TopContainer : public QWidget
+{
+    Q_OBJECT
+public:
+    using QWidget::QWidget;
+Q_SIGNALS:
+    void WindowClosed();
+};
+
+// A confirmation toggle under the top container of the registered main window, with the host's
+// filter and a host that grants every lock request at once.
+struct Stage
+{
+    Stage()
+        : answerer(log)
+    {
+        main.resize(480, 320);
+        GlobalImpl::getInstance()->systemModule()->registerSystemScreen(QStringLiteral("MainWindow"), &main);
+        top = new TopContainer(&main);
+        top->setObjectName(QStringLiteral("TopContainerObject"));
+        top->setGeometry(0, 0, 480, 320);
+        toggle = new QKXConfirmationToggleButton(top);
+        toggle->setGeometry(20, 20, 200, 60);
+        toggle->setTitleText(QStringLiteral("RF"));
+        toggle->setDialogText(QStringLiteral("Switch the RF output?"));
+        filter = new QKXConfirmationToggleButtonEventFilter(toggle);
+        toggle->installEventFilter(filter);
+        inner = toggle->findChild<QPushButton *>();
+        state = inner->findChild<QLabel *>();
+
+        QObject::connect(filter, &QKXConfirmationToggleButtonEventFilter::submit, [this](bool v) {
+            log << QStringLiteral("submit %1 while %2").arg(v).arg(state->objectName());
+        });
+        QObject::connect(filter, &QKXEventFilterBase::showGuiLockedMessage, [this] { log << QStringLiteral("gui locked"); });
+        QObject::connect(filter, &QKXEventFilterBase::attemptSetLock, [this](QWidget *w, bool locked) {
+            log << (w != toggle ? QStringLiteral("foreign lock") : locked ? QStringLiteral("request")
+                                                                          : QStringLiteral("release"));
+            if (locked)
+                filter->lockAcquired(w);
+        });
+        main.show();
+    }
+    ~Stage()
+    {
+        answerer.stop();
+        GlobalImpl::getInstance()->systemModule()->unregisterSystemScreen(QStringLiteral("MainWindow"));
+    }
+
+    QWidget main;
+    TopContainer *top;
+    QKXConfirmationToggleButton *toggle;
+    QKXConfirmationToggleButtonEventFilter *filter;
+    QPushButton *inner;
+    QLabel *state;
+    QStringList log;
+    PromptAnswerer answerer;
+};
+
+const QString Prompt = QStringLiteral("prompt RF|Switch the RF output?|No/Yes");
+
+QStringList switched(bool to)
+{
+    return {QStringLiteral("request"), QStringLiteral("submit %1 while Loading").arg(to), QStringLiteral("release")};
+}
+
+} // namespace
+
+class tst_QKXConfirmationToggleButton : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void properties();
+    void promptRoads_data();
+    void promptRoads();
+    void lockedShowsNoPrompt();
+    void guiLockedShowsNoPrompt();
+};
+
+void tst_QKXConfirmationToggleButton::properties()
+{
+    QKXConfirmationToggleButton t;
+    QCOMPARE(t.property("ButtonStyle").toInt(), 1);
+    QCOMPARE(t.property("PromptStyle").toInt(), 1);
+    QVERIFY(t.setProperty("TitleText", QStringLiteral("Averaging")));
+    QString title;
+    QVERIFY(QMetaObject::invokeMethod(&t, "titleText", Q_RETURN_ARG(QString, title)));
+    QCOMPARE(title, QStringLiteral("Averaging"));
+    QVERIFY(!t.setProperty("PromptStyle", QStringLiteral("always")));
+    QCOMPARE(t.promptStyle(), 1);
+}
+
+void tst_QKXConfirmationToggleButton::promptRoads_data()
+{
+    QTest::addColumn<int>("promptStyle");
+    QTest::addColumn<bool>("startOn");
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<QStringList>("expected");
+    QTest::addColumn<QStringList>("debug");
+
+    const QStringList none;
+    QTest::newRow("0: no prompt") << 0 << false << "" << switched(true) << none;
+    QTest::newRow("1: turning on, Yes") << 1 << false << "Yes" << QStringList{Prompt} + switched(true) << none;
+    QTest::newRow("1: turning on, No") << 1 << false << "No" << QStringList{Prompt} << none;
+    QTest::newRow("1: turning off needs no word") << 1 << true << "" << switched(false) << none;
+    QTest::newRow("2: turning off, Yes") << 2 << true << "Yes" << QStringList{Prompt} + switched(false) << none;
+    QTest::newRow("2: turning off, No") << 2 << true << "No" << QStringList{Prompt} << none;
+    QTest::newRow("2: turning on needs no word") << 2 << false << "" << switched(true) << none;
+    QTest::newRow("3: on, Yes") << 3 << true << "Yes" << QStringList{Prompt} + switched(false) << none;
+    QTest::newRow("3: off, No") << 3 << false << "No" << QStringList{Prompt} << none;
+    QTest::newRow("3: window closed") << 3 << false << "<window closed>" << QStringList{Prompt} << none;
+    QTest::newRow("negative: a notice") << -1 << false << "Yes" << QStringList{Prompt} << none;
+    QTest::newRow("unknown style asks both ways") << 9 << true << "Yes" << QStringList{Prompt} + switched(false)
+                                                  << QStringList{"UserInterface - QKXConfirmationToggleButtonEventFilter::"
+                                                                 "mouseReleaseEventFilter : PromptStyle 9 is none of 0 "
+                                                                 "to 3; confirming both ways."};
+}
+
+void tst_QKXConfirmationToggleButton::promptRoads()
+{
+    QFETCH(int, promptStyle);
+    QFETCH(bool, startOn);
+    QFETCH(QString, answer);
+    QFETCH(QStringList, expected);
+    QFETCH(QStringList, debug);
+
+    DebugLines lines;
+    Stage s;
+    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
+    s.toggle->setPromptStyle(promptStyle);
+    s.toggle->setActiveState(startOn);
+    if (answer == QLatin1String("<window closed>"))
+        s.answerer.answerWith(answer, [&s](ContainerDialog *) { emit s.top->WindowClosed(); });
+    else
+        s.answerer.answerWith(answer);
+
+    QTest::mouseClick(s.inner, Qt::LeftButton);
+    s.answerer.stop();
+    QCOMPARE(s.log, expected);
+    QCOMPARE(DebugLines::lines(), debug);
+    // Whatever the answer, the state only changes when the engine says so.
+    QCOMPARE(s.toggle->activeState(), startOn);
+    QCOMPARE(s.state->objectName(), expected.contains(QStringLiteral("request")) ? QStringLiteral("Loading")
+                                                                                 : startOn ? QStringLiteral("On")
+                                                                                           : QStringLiteral("Off"));
+    QVERIFY(!PromptAnswerer::openDialog());
+}
+
+void tst_QKXConfirmationToggleButton::lockedShowsNoPrompt()
+{
+    Stage s;
+    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
+    s.toggle->setPromptStyle(3);
+    s.toggle->setLocked(true);
+    s.answerer.answerWith(QStringLiteral("Yes"));
+    QTest::mouseClick(s.inner, Qt::LeftButton);
+    s.answerer.stop();
+    QCOMPARE(s.log, QStringList());
+    QCOMPARE(s.state->text(), QStringLiteral("Locked-On"));
+}
+
+void tst_QKXConfirmationToggleButton::guiLockedShowsNoPrompt()
+{
+    Stage s;
+    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
+    s.toggle->setPromptStyle(3);
+    s.answerer.answerWith(QStringLiteral("Yes"));
+    qApp->setProperty("guilocked", true);
+    QTest::mouseClick(s.inner, Qt::LeftButton);
+    qApp->setProperty("guilocked", QVariant());
+    s.answerer.stop();
+    QCOMPARE(s.log, QStringList{"gui locked"});
+    QVERIFY(!s.inner->isDown());
+    QCOMPARE(s.state->objectName(), QStringLiteral("On"));
+}
+
+QTEST_MAIN(tst_QKXConfirmationToggleButton)
+#include "tst_QKXConfirmationToggleButton.moc"

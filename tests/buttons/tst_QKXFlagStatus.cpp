@@ -1,0 +1,231 @@
+#include <QtTest>
+
+#include <QFrame>
+#include <QLabel>
+#include <QTimer>
+
+#include "ButtonTestSupport.h"
+#include "QKXFlagStatus.h"
+
+using namespace kxtest;
+
+namespace {
+
+QString ledSheet(const QString &fill)
+{
+    return QStringLiteral("QFrame#base {background: transparent;}\n"
+                          "QLabel#button {border: 1px solid #fff; border-radius: 10px; background: %1; "
+                          "min-width: 20px; max-width: 20px; min-height: 20px; max-height: 20px;}\n"
+                          "QLabel#Label {color: white; font-weight: normal; font-size: 16px;}\n")
+        .arg(fill);
+}
+
+const QString Dark = ledSheet(QStringLiteral("#222"));
+const QString Lit = ledSheet(QStringLiteral("#fc0"));
+
+struct Lamp
+{
+    Lamp()
+    {
+        screen.resize(200, 60);
+        flag = new QKXFlagStatus(&screen);
+        flag->setGeometry(0, 0, 200, 40);
+        base = flag->findChild<QFrame *>(QStringLiteral("base"));
+        led = flag->findChild<QLabel *>(QStringLiteral("button"));
+        timer = flag->findChild<QTimer *>(QStringLiteral("BlinkTimer"));
+    }
+
+    // One blink tick, as the running timer delivers it.
+    void tick()
+    {
+        QVERIFY(timer->isActive());
+        QTimerEvent event(timer->timerId());
+        QCoreApplication::sendEvent(timer, &event);
+    }
+
+    QWidget screen;
+    QKXFlagStatus *flag;
+    QFrame *base;
+    QLabel *led;
+    QTimer *timer;
+};
+
+} // namespace
+
+class tst_QKXFlagStatus : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void steadyLamp();
+    void blinking();
+    void blinkKeepsRhythm();
+    void trippedColour_data();
+    void trippedColour();
+    void lampIsPainted_data();
+    void lampIsPainted();
+    void captionAndSize();
+};
+
+void tst_QKXFlagStatus::steadyLamp()
+{
+    Lamp l;
+    QVERIFY(l.base && l.led && l.timer);
+    QCOMPARE(l.flag->property("TrippedLedColor").toString(), QStringLiteral("#fc0"));
+    QCOMPARE(l.flag->findChild<QLabel *>(QStringLiteral("Label"))->text(), QStringLiteral("Flag Status"));
+    QCOMPARE(l.base->styleSheet(), Dark);
+
+    QSignalSpy changed(l.flag, &QKXFlagStatus::valueChanged);
+    QVERIFY(l.flag->setProperty("Value", true));
+    QCOMPARE(l.base->styleSheet(), Lit);
+    QVERIFY(!l.timer->isActive());
+    // Announced again even without a change.
+    l.flag->setValue(true);
+    QVERIFY(QMetaObject::invokeMethod(l.flag, "setValue", Q_ARG(bool, false)));
+    QCOMPARE(l.base->styleSheet(), Dark);
+    QCOMPARE(changed.count(), 3);
+    QCOMPARE(changed.at(1).at(0).toBool(), true);
+    QCOMPARE(changed.at(2).at(0).toBool(), false);
+}
+
+void tst_QKXFlagStatus::blinking()
+{
+    Lamp l;
+    l.flag->setValue(true);
+    // Blink mode switched on while set starts at once, lit for the first second.
+    QVERIFY(QMetaObject::invokeMethod(l.flag, "setBlinkMode", Q_ARG(bool, true)));
+    QVERIFY(l.timer->isActive());
+    QCOMPARE(l.timer->interval(), 1000);
+    QCOMPARE(l.base->styleSheet(), Lit);
+    l.tick();
+    QCOMPARE(l.base->styleSheet(), Dark);
+    l.tick();
+    QCOMPARE(l.base->styleSheet(), Lit);
+    l.tick();
+    QCOMPARE(l.base->styleSheet(), Dark);
+
+    // Switched off while dark: lit and steady.
+    l.flag->setBlinkMode(false);
+    QVERIFY(!l.timer->isActive());
+    QCOMPARE(l.base->styleSheet(), Lit);
+
+    // Clearing the flag stops the blink, whatever the phase.
+    l.flag->setBlinkMode(true);
+    QVERIFY(l.timer->isActive());
+    l.tick();
+    l.flag->setValue(false);
+    QVERIFY(!l.timer->isActive());
+    QCOMPARE(l.base->styleSheet(), Dark);
+    QVERIFY(l.flag->getBlinkMode());
+
+    // Blink mode on a clear flag waits for the flag.
+    l.flag->setBlinkMode(true);
+    QVERIFY(!l.timer->isActive());
+    l.flag->setValue(true);
+    QVERIFY(l.timer->isActive());
+    QCOMPARE(l.base->styleSheet(), Lit);
+}
+
+void tst_QKXFlagStatus::blinkKeepsRhythm()
+{
+    // An engine that publishes the set flag every half second must not freeze the blink.
+    Lamp l;
+    l.flag->setBlinkMode(true);
+    l.flag->setValue(true);
+    const int timerId = l.timer->timerId();
+    l.tick();
+    QCOMPARE(l.base->styleSheet(), Dark);
+    l.flag->setValue(true);
+    QCOMPARE(l.base->styleSheet(), Dark);
+    QCOMPARE(l.timer->timerId(), timerId);
+    l.tick();
+    QCOMPARE(l.base->styleSheet(), Lit);
+}
+
+void tst_QKXFlagStatus::trippedColour_data()
+{
+    QTest::addColumn<QString>("colour");
+    QTest::addColumn<QString>("kept");   // empty: taken
+
+    QTest::newRow("hex") << "#f00" << "";
+    QTest::newRow("name") << "red" << "";
+    QTest::newRow("rgb") << "rgb(255, 0, 0)" << "";
+    QTest::newRow("rgba") << "rgba(255,0,0,128)" << "";
+    QTest::newRow("empty") << "" << "#fc0";
+    QTest::newRow("no colour") << "overload" << "#fc0";
+    QTest::newRow("breaks out of the rule") << "#f00; } QLabel { color: red" << "#fc0";
+}
+
+void tst_QKXFlagStatus::trippedColour()
+{
+    QFETCH(QString, colour);
+    QFETCH(QString, kept);
+
+    DebugLines debug;
+    Lamp l;
+    l.flag->setBlinkMode(true);
+    l.flag->setValue(true);
+    QVERIFY(l.flag->setProperty("TrippedLedColor", colour));
+
+    // The lit lamp keeps its colour until its next change.
+    QCOMPARE(l.base->styleSheet(), Lit);
+    const QString expected = kept.isEmpty() ? colour : kept;
+    QCOMPARE(l.flag->getTrippedLedColor(), expected);
+    l.tick();
+    l.tick();
+    QCOMPARE(l.base->styleSheet(), ledSheet(expected));
+    QCOMPARE(DebugLines::lines(),
+             kept.isEmpty() ? QStringList()
+                            : QStringList{QStringLiteral("UserInterface - QKXFlagStatus::setTrippedLedColor : \"%1\" is "
+                                                         "no colour; keeping #fc0.")
+                                              .arg(colour)});
+}
+
+void tst_QKXFlagStatus::lampIsPainted_data()
+{
+    QTest::addColumn<bool>("beforeShown");
+    QTest::newRow("on screen") << false;
+    QTest::newRow("set before shown") << true;
+}
+
+void tst_QKXFlagStatus::lampIsPainted()
+{
+    QFETCH(bool, beforeShown);
+    Lamp l;
+    const QPoint centre(11, 11);   // 20 pixels inside a 1-pixel ring
+    if (!beforeShown) {
+        l.screen.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&l.screen));
+        QCOMPARE(l.led->size(), QSize(22, 22));
+        QCOMPARE(colourAt(l.led, centre), QColor(QStringLiteral("#222")));
+    }
+    l.flag->setTrippedLedColor(QStringLiteral("#e02020"));
+    l.flag->setValue(true);
+    if (beforeShown) {
+        l.screen.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&l.screen));
+    }
+    QCOMPARE(colourAt(l.led, centre), QColor(QStringLiteral("#e02020")));
+}
+
+void tst_QKXFlagStatus::captionAndSize()
+{
+    Lamp l;
+    auto *caption = l.flag->findChild<QLabel *>(QStringLiteral("Label"));
+    WordTranslator german("Overload", "Übersteuerung");
+    qApp->installTranslator(&german);
+    // The host's caption is shown as given; the designer's label text is translated.
+    QVERIFY(QMetaObject::invokeMethod(l.flag, "updateFlagStatusLabel", Q_ARG(QString, QStringLiteral("Overload"))));
+    QCOMPARE(caption->text(), QStringLiteral("Overload"));
+    l.flag->setLabelText(QStringLiteral("Overload"));
+    qApp->removeTranslator(&german);
+    QCOMPARE(caption->text(), QString::fromUtf8("Übersteuerung"));
+
+    // One size only.
+    l.flag->changeSize(QStringLiteral("Max"));
+    QCOMPARE(l.flag->currentSize(), QStringLiteral("Min"));
+    QCOMPARE(l.base->styleSheet(), Dark);
+}
+
+QTEST_MAIN(tst_QKXFlagStatus)
+#include "tst_QKXFlagStatus.moc"

@@ -1,0 +1,188 @@
+// Mouse events travel through the window system, as a finger on the panel does.
+#define QTEST_QPA_MOUSE_HANDLING
+#include <QtTest>
+
+#include <QHBoxLayout>
+#include <QPushButton>
+
+#include "ButtonTestSupport.h"
+#include "CSS.h"
+#include "QKXPlaybackControlButton.h"
+#include "QKXPushButtonEventFilter.h"
+
+using namespace kxtest;
+
+namespace {
+
+// The symbol overlays, exactly as hosts' sheets and logs know them.
+const QString PlayOverlay = QStringLiteral("    QPushButton {        image: url(:/images/SymbolTriangleRight.svg);     }");
+const QString StopOverlay = QStringLiteral("    QPushButton {        image: url(:/images/SymbolWhiteSquare.svg);     }");
+const QString UnknownLine = QStringLiteral("UserInterface - KXPlaybackControlButtonPrivate::updateStyle : Unknown button style.");
+
+QImage face(QKXPlaybackControlButton *button)
+{
+    return button->findChild<QPushButton *>()->grab().toImage();
+}
+
+} // namespace
+
+class tst_QKXPlaybackControlButton : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void baseSheet();
+    void symbols_data();
+    void symbols();
+    void unknownType_data();
+    void unknownType();
+    void symbolsArePainted();
+    void clicksIgnoreTheLock();
+};
+
+void tst_QKXPlaybackControlButton::baseSheet()
+{
+    QKXPlaybackControlButton b;
+    QCOMPARE(b.buttonType(), QKXPlaybackControlButton::none);
+    QCOMPARE(b.minimumSize(), QSize(40, 40));
+    QCOMPARE(b.sizeHint(), QSize(44, 44));
+    QCOMPARE(b.sizePolicy().verticalPolicy(), QSizePolicy::Maximum);
+    const QString gradient = QStringLiteral("qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 %1, stop:0.8 %2, stop:1 %3)")
+                                 .arg(CSS::gradientDark(), CSS::gradientMiddle(), CSS::gradientLight())
+                                 .simplified();
+    QCOMPARE(describeSheet(b.styleSheet()),
+             (QStringList{"QPushButton { background-color: " + gradient + "; color: white; border-style: solid; "
+                              "border-width: 2px; border-color: " + CSS::border().simplified() + "; border-radius: 15px; "
+                              "margin: 0px; min-height: 40px; max-height: 40px; min-width: 40px; max-width: 40px }",
+                          "QPushButton:pressed { color: white; background-color: " + CSS::gradientDark().simplified() + " }"}));
+}
+
+void tst_QKXPlaybackControlButton::symbols_data()
+{
+    QTest::addColumn<QVariant>("write");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("overlay");
+
+    QTest::newRow("play by value") << QVariant::fromValue(QKXPlaybackControlButton::play) << 1 << PlayOverlay;
+    QTest::newRow("stop by int") << QVariant(2) << 2 << StopOverlay;
+    QTest::newRow("play by name") << QVariant(QStringLiteral("play")) << 1 << PlayOverlay;
+    QTest::newRow("none by name") << QVariant(QStringLiteral("none")) << 0 << QString();
+}
+
+void tst_QKXPlaybackControlButton::symbols()
+{
+    QFETCH(QVariant, write);
+    QFETCH(int, type);
+    QFETCH(QString, overlay);
+
+    QKXPlaybackControlButton b;
+    b.setButtonType(QKXPlaybackControlButton::stop);
+    b.setButtonType(QKXPlaybackControlButton::none);
+    const QString base = b.styleSheet();
+    QVERIFY(b.setProperty("ButtonType", write));
+    QCOMPARE(int(b.buttonType()), type);
+    // The overlay follows the base sheet byte for byte, in both sizes.
+    QCOMPARE(b.styleSheet(), base + overlay);
+    b.changeSize(QStringLiteral("Max"));
+    QCOMPARE(b.styleSheet(), base + overlay);
+}
+
+void tst_QKXPlaybackControlButton::unknownType_data()
+{
+    QTest::addColumn<QVariant>("write");
+    QTest::addColumn<bool>("accepted");
+    QTest::addColumn<QStringList>("lines");
+
+    QTest::newRow("3") << QVariant(3) << true << QStringList{UnknownLine};
+    QTest::newRow("-1") << QVariant(-1) << true << QStringList{UnknownLine};
+    // Names that are not in the enumeration and values of the wrong type never reach the button.
+    QTest::newRow("unknown name") << QVariant(QStringLiteral("pause")) << false << QStringList();
+    QTest::newRow("wrong type") << QVariant(QPoint(1, 2)) << false << QStringList();
+}
+
+void tst_QKXPlaybackControlButton::unknownType()
+{
+    QFETCH(QVariant, write);
+    QFETCH(bool, accepted);
+    QFETCH(QStringList, lines);
+
+    DebugLines debug;
+    QKXPlaybackControlButton b;
+    b.setButtonType(QKXPlaybackControlButton::play);
+    const QString sheet = b.styleSheet();
+    QCOMPARE(b.setProperty("ButtonType", write), accepted);
+    // The key keeps its symbol.
+    QCOMPARE(b.buttonType(), QKXPlaybackControlButton::play);
+    QCOMPARE(b.styleSheet(), sheet);
+    QCOMPARE(DebugLines::lines(), lines);
+}
+
+void tst_QKXPlaybackControlButton::symbolsArePainted()
+{
+    // A form sets the type before its screen is shown; the symbol must still be drawn.
+    QWidget screen;
+    screen.resize(200, 80);
+    auto *none = new QKXPlaybackControlButton(&screen);
+    auto *play = new QKXPlaybackControlButton(&screen);
+    auto *stop = new QKXPlaybackControlButton(&screen);
+    play->setButtonType(QKXPlaybackControlButton::play);
+    stop->setProperty("ButtonType", QStringLiteral("stop"));
+    auto *row = new QHBoxLayout(&screen);
+    row->addWidget(none);
+    row->addWidget(play);
+    row->addWidget(stop);
+    row->addStretch(1);
+    screen.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&screen));
+
+    const QImage plain = face(none);
+    const QImage triangle = face(play);
+    const QImage square = face(stop);
+    // The whole key is on screen: 40 inside the 2-pixel border.
+    QCOMPARE(plain.size(), QSize(44, 44));
+    QCOMPARE(play->size(), QSize(44, 44));
+    QVERIFY(triangle != plain);
+    QVERIFY(square != plain);
+    QVERIFY(square != triangle);
+    // The symbols are white on the gradient.
+    const QPoint centre(22, 22);
+    QCOMPARE(triangle.pixelColor(centre), QColor(Qt::white));
+    QCOMPARE(square.pixelColor(centre), QColor(Qt::white));
+    QVERIFY(plain.pixelColor(centre) != QColor(Qt::white));
+}
+
+void tst_QKXPlaybackControlButton::clicksIgnoreTheLock()
+{
+    QWidget screen;
+    screen.resize(200, 60);
+    auto *b = new QKXPlaybackControlButton(&screen);
+    b->move(10, 10);
+    auto *filter = new QKXPushButtonEventFilter(b);
+    b->installEventFilter(filter);
+    screen.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&screen));
+
+    QStringList log;
+    QObject::connect(b, &QKXPlaybackControlButton::clicked, [&log] { log << QStringLiteral("clicked"); });
+    QObject::connect(b, &QKXPlaybackControlButton::buttonPressed,
+                     [&log](const QString &name) { log << QStringLiteral("buttonPressed ") + name; });
+    QObject::connect(filter, &QKXEventFilterBase::attemptSetLock,
+                     [&log](QWidget *, bool locked) { log << (locked ? "request" : "release"); });
+
+    auto *inner = b->findChild<QPushButton *>();
+    const QString sheet = b->styleSheet();
+    QVERIFY(b->setProperty("Locked", true));
+    QCOMPARE(b->styleSheet(), sheet);   // no locked look
+    QTest::mouseClick(inner, Qt::LeftButton);
+    QCOMPARE(log, (QStringList{"request", "clicked", "buttonPressed PushButton"}));
+
+    log.clear();
+    QVERIFY(QMetaObject::invokeMethod(b, "setButtonName", Q_ARG(QString, QStringLiteral("StopRecording"))));
+    QTest::mouseClick(inner, Qt::LeftButton);
+    QCOMPARE(log, (QStringList{"request", "clicked", "buttonPressed StopRecording"}));
+    b->setButtonObjectName(QStringLiteral("PlayRecording"));
+    QCOMPARE(inner->objectName(), QStringLiteral("PlayRecording"));
+}
+
+QTEST_MAIN(tst_QKXPlaybackControlButton)
+#include "tst_QKXPlaybackControlButton.moc"

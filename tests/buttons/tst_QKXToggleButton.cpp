@@ -1,0 +1,371 @@
+// Mouse events travel through the window system, as a finger on the panel does.
+#define QTEST_QPA_MOUSE_HANDLING
+#include <QtTest>
+
+#include <QLabel>
+#include <QPushButton>
+
+#include "ButtonTestSupport.h"
+#include "CSS.h"
+#include "QKXToggleButton.h"
+#include "QKXToggleButtonEventFilter.h"
+
+using namespace kxtest;
+
+namespace {
+
+// A toggle on a screen, with the host's filter installed and a host that grants every request at once.
+struct Stage
+{
+    Stage()
+    {
+        screen.resize(300, 120);
+        toggle = new QKXToggleButton(&screen);
+        toggle->setGeometry(20, 20, 200, 60);
+        filter = new QKXToggleButtonEventFilter(toggle);
+        toggle->installEventFilter(filter);
+        inner = toggle->findChild<QPushButton *>();
+        state = inner ? inner->findChild<QLabel *>() : nullptr;
+        QObject::connect(filter, &QKXEventFilterBase::attemptSetLock, [this](QWidget *w, bool locked) {
+            log << (w != toggle ? QStringLiteral("foreign lock") : locked ? QStringLiteral("request")
+                                                                          : QStringLiteral("release"));
+            if (locked && grant)
+                filter->lockAcquired(w);
+        });
+        QObject::connect(filter, &QKXToggleButtonEventFilter::submit, [this](bool v) {
+            log << QStringLiteral("submit %1 while %2 \"%3\"").arg(v).arg(state->objectName(), state->text());
+        });
+        QObject::connect(toggle, &QKXToggleButton::toggled, [this](bool v) { log << QStringLiteral("toggled %1").arg(v); });
+        screen.show();
+    }
+
+    QString look() const { return state->objectName() + QLatin1Char(' ') + state->text(); }
+
+    QWidget screen;
+    QKXToggleButton *toggle;
+    QKXToggleButtonEventFilter *filter;
+    QPushButton *inner;
+    QLabel *state;
+    QStringList log;
+    bool grant = true;
+};
+
+// Runs "verb:argument" steps on a toggle.
+void runSteps(QKXToggleButton *toggle, const QStringList &steps)
+{
+    for (const QString &step : steps) {
+        const QString verb = step.section(QLatin1Char(':'), 0, 0);
+        const QString arg = step.section(QLatin1Char(':'), 1);
+        if (verb == QLatin1String("state"))
+            QVERIFY(toggle->setProperty("State", arg == QLatin1String("1")));
+        else if (verb == QLatin1String("lock"))
+            toggle->setLocked(arg == QLatin1String("1"));
+        else if (verb == QLatin1String("loading"))
+            QVERIFY(QMetaObject::invokeMethod(toggle, "setButtonLoading"));
+        else if (verb == QLatin1String("on"))
+            QVERIFY(toggle->setProperty("OnText", arg));
+        else if (verb == QLatin1String("off"))
+            QVERIFY(toggle->setProperty("OffText", arg));
+        else if (verb == QLatin1String("loadingText"))
+            QVERIFY(toggle->setProperty("LoadingText", arg));
+        else
+            QFAIL(qPrintable(step));
+    }
+}
+
+} // namespace
+
+class tst_QKXToggleButton : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void construction();
+    void looks_data();
+    void looks();
+    void translation();
+    void styleSheet();
+    void looksArePainted_data();
+    void looksArePainted();
+    void tapEndToEnd_data();
+    void tapEndToEnd();
+    void lockedTapAsksNothing();
+    void filterGrants();
+};
+
+void tst_QKXToggleButton::construction()
+{
+    QKXToggleButton t;
+    auto *inner = t.findChild<QPushButton *>();
+    auto *state = inner ? inner->findChild<QLabel *>() : nullptr;
+    QVERIFY(state);
+    QCOMPARE(state->objectName() + QLatin1Char(' ') + state->text(), QStringLiteral("On On"));
+    QCOMPARE(state->alignment(), Qt::Alignment(0x86));
+    QCOMPARE(inner->focusPolicy(), Qt::NoFocus);
+    bool active = false;
+    QVERIFY(QMetaObject::invokeMethod(&t, "activeState", Q_RETURN_ARG(bool, active)));
+    QVERIFY(active);
+    QCOMPARE(QStringList({t.property("OnText").toString(), t.property("OffText").toString(),
+                          t.property("LoadingText").toString()}),
+             QStringList({"On", "Off", "Loading"}));
+}
+
+void tst_QKXToggleButton::looks_data()
+{
+    QTest::addColumn<QStringList>("steps");
+    QTest::addColumn<QString>("look");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<bool>("active");
+    QTest::addColumn<QList<bool>>("toggled");
+
+    QTest::newRow("off") << QStringList{"state:0"} << "Off Off" << true << false << QList<bool>{false};
+    QTest::newRow("on again still announces") << QStringList{"state:1"} << "On On" << true << true << QList<bool>{true};
+    QTest::newRow("loading keeps the state") << QStringList{"state:0", "loading"} << "Loading Loading" << true << false
+                                             << QList<bool>{false};
+    QTest::newRow("engine answers a loading button") << QStringList{"state:0", "loading", "state:1"} << "On On" << true
+                                                     << true << QList<bool>{false, true};
+    QTest::newRow("locked off") << QStringList{"state:0", "lock:1"} << "Locked Locked-Off" << false << false
+                                << QList<bool>{false};
+    QTest::newRow("state set while locked") << QStringList{"lock:1", "state:0", "state:1"} << "Locked Locked-On"
+                                            << false << true << QList<bool>{false, true};
+    QTest::newRow("locked loading button") << QStringList{"loading", "lock:1"} << "Locked Locked-On" << false << true
+                                           << QList<bool>();
+    QTest::newRow("unlocked") << QStringList{"state:0", "lock:1", "lock:0"} << "Off Off" << true << false
+                              << QList<bool>{false};
+    QTest::newRow("on text while off waits") << QStringList{"state:0", "on:RF on"} << "Off Off" << true << false
+                                             << QList<bool>{false};
+    QTest::newRow("on text while off, then on") << QStringList{"state:0", "on:RF on", "state:1"} << "On RF on" << true
+                                                << true << QList<bool>{false, true};
+    QTest::newRow("on text while on shows at once") << QStringList{"on:RF on"} << "On RF on" << true << true
+                                                    << QList<bool>();
+    QTest::newRow("on text while locked keeps the mark") << QStringList{"lock:1", "on:RF on"} << "Locked Locked-RF on"
+                                                         << false << true << QList<bool>();
+    QTest::newRow("off text while off") << QStringList{"state:0", "off:Standby"} << "Off Standby" << true << false
+                                        << QList<bool>{false};
+    QTest::newRow("loading text is the next loading look") << QStringList{"loadingText:Wait", "loading"} << "Loading Wait"
+                                                           << true << true << QList<bool>();
+    // With one text for both states only the on look can be shown.
+    QTest::newRow("equal texts select on") << QStringList{"off:RF", "on:RF", "state:0"} << "On RF" << true << true
+                                           << QList<bool>{false};
+}
+
+void tst_QKXToggleButton::looks()
+{
+    QFETCH(QStringList, steps);
+    QFETCH(QString, look);
+    QFETCH(bool, enabled);
+    QFETCH(bool, active);
+    QFETCH(QList<bool>, toggled);
+
+    QKXToggleButton t;
+    QSignalSpy spy(&t, &QKXToggleButton::toggled);
+    const QString sheet = t.styleSheet();
+    runSteps(&t, steps);
+
+    auto *inner = t.findChild<QPushButton *>();
+    auto *state = inner->findChild<QLabel *>();
+    QCOMPARE(state->objectName() + QLatin1Char(' ') + state->text(), look);
+    QCOMPARE(inner->isEnabled(), enabled);
+    QCOMPARE(t.activeState(), active);
+    QList<bool> announced;
+    for (const QList<QVariant> &args : spy)
+        announced << args.at(0).toBool();
+    QCOMPARE(announced, toggled);
+    QCOMPARE(t.styleSheet(), sheet);
+    // The Locked property reads back what was written.
+    QCOMPARE(t.property("Locked").toBool(), look.startsWith(QLatin1String("Locked")));
+}
+
+void tst_QKXToggleButton::translation()
+{
+    QKXToggleButton t;
+    auto *inner = t.findChild<QPushButton *>();
+    auto *state = inner->findChild<QLabel *>();
+    QSignalSpy spy(&t, &QKXToggleButton::toggled);
+
+    // A caption that Latin-1 cannot carry survives untranslated.
+    QVERIFY(t.setProperty("LabelText", QString::fromUtf8("Ausgangsleistung \xe2\x86\x92 HF")));
+    QCOMPARE(inner->text(), QString::fromUtf8("Ausgangsleistung \xe2\x86\x92 HF"));
+
+    WordTranslator off("Off", "Aus");
+    WordTranslator caption("RF Output", "HF-Ausgang");
+    WordTranslator loading("Loading", "Laden");
+    qApp->installTranslator(&off);
+    qApp->installTranslator(&caption);
+    qApp->installTranslator(&loading);
+    t.setLabel(QStringLiteral("RF Output"));
+    t.setActiveState(false);
+    QCOMPARE(inner->text(), QStringLiteral("HF-Ausgang"));
+    QCOMPARE(t.property("LabelText").toString(), QStringLiteral("RF Output"));
+    QCOMPARE(state->text(), QStringLiteral("Aus"));
+    t.setLocked(true);
+    QCOMPARE(state->text(), QStringLiteral("Locked-Aus"));
+    t.setLocked(false);
+    // The loading text is shown as written.
+    t.setButtonLoading();
+    QCOMPARE(state->text(), QStringLiteral("Loading"));
+    qApp->removeTranslator(&off);
+    qApp->removeTranslator(&caption);
+    qApp->removeTranslator(&loading);
+
+    // A language change puts every text back into the language now in force and repeats the state.
+    spy.clear();
+    t.retranslate();
+    QCOMPARE(inner->text(), QStringLiteral("RF Output"));
+    QCOMPARE(state->text(), QStringLiteral("Off"));
+    QCOMPARE(state->objectName(), QStringLiteral("Off"));
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.at(0).at(0).toBool(), false);
+}
+
+void tst_QKXToggleButton::styleSheet()
+{
+    QKXToggleButton t;
+    const QString gradient = QStringLiteral("qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 %1, stop:0.7 %2, stop:1 %3)")
+                                 .arg(CSS::gradientDark(), CSS::gradientMiddle(), CSS::gradientLight())
+                                 .simplified();
+    const QString border = CSS::border().simplified();
+    const QString highlight = CSS::highlight().simplified();
+    const QStringList expected{
+        "QPushButton { background-color: " + gradient + "; color: white; border-style: solid; border-width: 2px; "
+            "border-color: " + border + "; border-radius: 15px; padding: 3px 0px 0px 8px; margin: 0px; "
+            "min-height: 40px; max-height: 40px; text-align: top left; font-size: 18px }",
+        "QPushButton:pressed { color: white; background-color: " + border + " }",
+        "QPushButton:disabled { border-color: rgb(102,102,102) }",
+        "QLabel { border-radius: 7px; padding: 0px 10px 0px 5px; min-height: 12px; max-height: 12px; "
+            "margin: 17px 0px 0px 0px; color: #000; font-size: 14px; font-weight: bold }",
+        "QLabel#On { border: 1px solid #0afa55; background-color: #0afa55 }",
+        "QLabel#Off { border: 1px solid " + highlight + "; background-color: " + highlight + " }",
+        "QLabel#Loading { border: 1px solid #febe42; color: #febe42; background-color: #000 }",
+        "QLabel#Locked { border: 1px solid #0afa55; background-color: #666666 }",
+    };
+    QCOMPARE(describeSheet(t.styleSheet()), expected);
+
+    const QString sheet = t.styleSheet();
+    t.changeSize(QStringLiteral("Max"));
+    QCOMPARE(t.currentSize(), QStringLiteral("Max"));
+    QCOMPARE(t.styleSheet(), sheet);
+    t.setReadOnly(true);
+    QCOMPARE(t.styleSheet(), sheet);
+}
+
+void tst_QKXToggleButton::looksArePainted_data()
+{
+    QTest::addColumn<QString>("step");
+    QTest::addColumn<QString>("colour");
+    QTest::addColumn<bool>("beforeShown");
+
+    for (bool before : {false, true}) {
+        const char *when = before ? "before shown" : "on screen";
+        QTest::addRow("on, %s", when) << "" << "#0afa55" << before;
+        QTest::addRow("off, %s", when) << "off" << CSS::highlight() << before;
+        QTest::addRow("loading, %s", when) << "loading" << "#000" << before;
+        QTest::addRow("locked, %s", when) << "locked" << "#666666" << before;
+    }
+}
+
+void tst_QKXToggleButton::looksArePainted()
+{
+    QFETCH(QString, step);
+    QFETCH(QString, colour);
+    QFETCH(bool, beforeShown);
+
+    // The object name must reach the sheet: each look paints the state label in its own colours,
+    // also when the host sets it up before the screen is first shown.
+    QWidget screen;
+    screen.resize(300, 120);
+    auto *t = new QKXToggleButton(&screen);
+    t->setGeometry(10, 10, 240, 60);
+    const auto apply = [&] {
+        if (step == QLatin1String("off"))
+            t->setActiveState(false);
+        else if (step == QLatin1String("loading"))
+            t->setButtonLoading();
+        else if (step == QLatin1String("locked"))
+            t->setLocked(true);
+    };
+    if (beforeShown)
+        apply();
+    screen.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&screen));
+    if (!beforeShown)
+        apply();
+    auto *state = t->findChild<QPushButton *>()->findChild<QLabel *>();
+    const QPoint edge(3, state->height() / 2);   // inside the rounded strip, left of the text
+    QCOMPARE(colourAt(state, edge), QColor(colour));
+}
+
+void tst_QKXToggleButton::tapEndToEnd_data()
+{
+    QTest::addColumn<bool>("startOn");
+    QTest::newRow("off to on") << false;
+    QTest::newRow("on to off") << true;
+}
+
+void tst_QKXToggleButton::tapEndToEnd()
+{
+    QFETCH(bool, startOn);
+    Stage s;
+    QVERIFY(QTest::qWaitForWindowExposed(&s.screen));
+    s.toggle->setActiveState(startOn);
+    s.log.clear();
+
+    QTest::mouseClick(s.inner, Qt::LeftButton);
+    // The button shows the request in its loading look before the value goes out, and is not switched.
+    QCOMPARE(s.log, (QStringList{"request", QStringLiteral("submit %1 while Loading \"Loading\"").arg(!startOn),
+                                 "release"}));
+    QCOMPARE(s.toggle->activeState(), startOn);
+    QCOMPARE(s.look(), QStringLiteral("Loading Loading"));
+
+    // The engine confirms.
+    s.log.clear();
+    s.toggle->setActiveState(!startOn);
+    QCOMPARE(s.log, QStringList{QStringLiteral("toggled %1").arg(!startOn)});
+    QCOMPARE(s.look(), startOn ? QStringLiteral("Off Off") : QStringLiteral("On On"));
+}
+
+void tst_QKXToggleButton::lockedTapAsksNothing()
+{
+    Stage s;
+    QVERIFY(QTest::qWaitForWindowExposed(&s.screen));
+    s.toggle->setLocked(true);
+    s.log.clear();
+    QTest::mouseClick(s.inner, Qt::LeftButton);
+    QCOMPARE(s.log, QStringList());
+    QCOMPARE(s.look(), QStringLiteral("Locked Locked-On"));
+
+    s.toggle->setLocked(false);
+    QTest::mouseClick(s.inner, Qt::LeftButton);
+    QCOMPARE(s.log.value(0), QStringLiteral("request"));
+}
+
+void tst_QKXToggleButton::filterGrants()
+{
+    Stage s;
+    s.grant = false;
+    QWidget other;
+    s.filter->lockAcquired(&other);
+    s.filter->lockAcquired(s.toggle, false);
+    QCOMPARE(s.log, QStringList());
+    QCOMPARE(s.look(), QStringLiteral("On On"));
+
+    QVERIFY(QMetaObject::invokeMethod(s.filter, "lockAcquired", Q_ARG(QWidget *, s.toggle), Q_ARG(bool, true)));
+    QCOMPARE(s.log, (QStringList{"submit 0 while Loading \"Loading\"", "release"}));
+
+    // On a widget without a state the lock goes back and nothing is submitted.
+    DebugLines debug;
+    QWidget plain;
+    auto *filter = new QKXToggleButtonEventFilter(&plain);
+    QStringList log;
+    QObject::connect(filter, &QKXToggleButtonEventFilter::submit, [&log](bool) { log << QStringLiteral("submit"); });
+    QObject::connect(filter, &QKXEventFilterBase::attemptSetLock,
+                     [&log](QWidget *, bool locked) { log << (locked ? "request" : "release"); });
+    filter->lockAcquired(&plain);
+    QCOMPARE(log, QStringList{"release"});
+    QCOMPARE(DebugLines::lines(),
+             QStringList{"UserInterface - QKXToggleButtonEventFilter::lockAcquired : QWidget has no activeState(); "
+                         "nothing submitted."});
+}
+
+QTEST_MAIN(tst_QKXToggleButton)
+#include "tst_QKXToggleButton.moc"
