@@ -1,0 +1,3 @@
+#include "QKXEntryBase.h"
+
+QKXEntryBase::~QKXEntryBase() = default;

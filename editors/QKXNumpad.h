@@ -1,0 +1,48 @@
+#ifndef QKXNUMPAD_H
+#define QKXNUMPAD_H
+
+#include "QKXKeyPadBase.h"
+
+class QKXNumpadPrivate;
+
+// The numeric pad: edits the display of a numeric field in base 10, 16, 8 or 2 and commits it in the
+// form its filter's "DataType" calls for. Keys type into the field itself, so the field's own filter
+// sees the same text the pad commits.
+class STANDALONEPLUGINS_EXPORT QKXNumpad : public QKXKeyPadBase
+{
+    Q_OBJECT
+public:
+    explicit QKXNumpad(QWidget *parent = nullptr);
+    ~QKXNumpad() override;
+
+    // The unit key of that index (0..3) on the units page.
+    QPushButton *unitButton(int index) const;
+
+public Q_SLOTS:
+    void registerWidget(QObject *filter, QWidget *widget) override;
+    void unregister() override;
+    // Cancels the registered edit directly on a numeric filter; other filters are left alone.
+    void cancel();
+
+protected Q_SLOTS:
+    void buttonPress() override;
+    void buttonSubmit() override;
+    virtual void setBase(int base);
+    virtual void initDecEntry();
+    virtual void initHexEntry();
+    virtual void initOctEntry();
+    virtual void initBinEntry();
+    virtual void resizeNumpad(int w, int h, bool isHex = false);
+    virtual void setReadingText(const QString &txt);
+
+protected:
+    void createNumpadButtons() override;
+    virtual void createHexEnterButtons();
+    virtual void createUnitButtons();
+
+private:
+    Q_DISABLE_COPY(QKXNumpad)
+    Q_DECLARE_PRIVATE(QKXNumpad)
+};
+
+#endif // QKXNUMPAD_H

@@ -1,0 +1,54 @@
+#ifndef KXNUMBERTEXT_P_H
+#define KXNUMBERTEXT_P_H
+
+//
+//  W A R N I N G
+//  -------------
+// Not part of the library's public API: number rules shared by the numeric widgets, their filters
+// and the numeric editors.
+//
+
+#include <QString>
+#include <QVariant>
+
+#include <cmath>
+#include <limits>
+
+namespace kxnumber {
+
+// Whether the value has an integer form without saturating (finite, within the int range once
+// truncated toward zero).
+inline bool fitsInt(double value)
+{
+    return std::isfinite(value) && value > -2147483649.0 && value < 2147483648.0;
+}
+
+// The integer form of a value: truncated toward zero. The instrument's float-to-integer conversion
+// saturates at the ends of the range and gives 0 for NaN; the same rule here keeps the integer
+// signals identical on every platform and free of undefined conversions.
+inline int truncated(double value)
+{
+    if (std::isnan(value)) {
+        return 0;
+    }
+    if (value >= 2147483647.0) {
+        return std::numeric_limits<int>::max();
+    }
+    if (value <= -2147483648.0) {
+        return std::numeric_limits<int>::min();
+    }
+    return static_cast<int>(value);
+}
+
+// The radix a widget's "Base" property names: 16, 8 or 2, and 10 for anything else (also for a
+// widget without the property).
+inline int radixOf(const QVariant &base)
+{
+    bool ok = false;
+    const int radix = base.toInt(&ok);
+    return ok && (radix == 16 || radix == 8 || radix == 2) ? radix : 10;
+}
+
+} // namespace kxnumber
+
+#endif // KXNUMBERTEXT_P_H

@@ -1,0 +1,74 @@
+#ifndef QKXNUMERIC_H
+#define QKXNUMERIC_H
+
+#include "QKXWidgetBase.h"
+
+#include <QVariant>
+
+class QKXNumericPrivate;
+
+// The numeric field of the front panel: a caption over a one-line display of one integer or
+// floating-point attribute. It formats the value but never edits or clamps it; its edit filter and
+// the popup editors do the editing and read the limits, base and editor flags from its properties.
+class STANDALONEPLUGINS_EXPORT QKXNumeric : public QKXWidgetBase
+{
+    Q_OBJECT
+    Q_PROPERTY(int Precision READ precision WRITE setPrecision DESIGNABLE true SCRIPTABLE true STORED true)
+    Q_PROPERTY(BaseType Base READ baseType WRITE setBaseType DESIGNABLE true SCRIPTABLE true STORED true)
+    Q_PROPERTY(double LowerLimit READ lowerLimit WRITE setLowerLimit DESIGNABLE true SCRIPTABLE true STORED true)
+    Q_PROPERTY(double UpperLimit READ upperLimit WRITE setUpperLimit DESIGNABLE true SCRIPTABLE true STORED true)
+    Q_PROPERTY(bool Editing READ editing WRITE setEditing DESIGNABLE true SCRIPTABLE true STORED true)
+    Q_PROPERTY(bool Numpad READ hasNumpad WRITE setNumpad DESIGNABLE true SCRIPTABLE true STORED true)
+    Q_PROPERTY(bool Slider READ hasSlider WRITE setSlider DESIGNABLE true SCRIPTABLE true STORED true)
+    Q_PROPERTY(bool Spinner READ hasSpinner WRITE setSpinner DESIGNABLE true SCRIPTABLE true STORED true)
+
+public:
+    // The radix of the display and of typed text.
+    enum BaseType { DEC = 10, HEX = 16, OCT = 8, BIN = 2 };
+    Q_ENUM(BaseType)
+
+    explicit QKXNumeric(QWidget *parent = nullptr);
+    ~QKXNumeric() override;
+
+    virtual int precision() const;
+    virtual BaseType baseType() const;
+    Q_INVOKABLE virtual bool hasNumpad() const;
+    Q_INVOKABLE virtual bool hasSlider() const;
+    Q_INVOKABLE virtual bool hasSpinner() const;
+    virtual QVariant metaData() const;
+    Q_INVOKABLE virtual double value() const;
+    virtual double lowerLimit() const;
+    virtual double upperLimit() const;
+    virtual bool editing() const;
+
+public Q_SLOTS:
+    virtual void setValue(const double &value);
+    virtual void setValue(const int &value);
+    virtual void setPrecision(const int &precision);
+    virtual void setBaseType(const QKXNumeric::BaseType &base);
+    virtual void setSlider(const bool &slider);
+    virtual void setSpinner(const bool &spinner);
+    virtual void setNumpad(const bool &numpad);
+    virtual void setMetaData(const QVariant &metaData);
+    virtual void setLowerLimit(const double &limit);
+    virtual void setLowerLimit(const int &limit);
+    virtual void setUpperLimit(const double &limit);
+    virtual void setUpperLimit(const int &limit);
+    virtual void setEditing(const bool &editing);
+
+Q_SIGNALS:
+    void valueChanged(double value);
+    void valueChanged(int value);
+    void lowerLimitChanged(double lowerLimit);
+    void upperLimitChanged(double upperLimit);
+    void precisionChanged(int precision);
+
+protected:
+    QKXNumeric(QKXNumericPrivate &dd, QWidget *parent);
+
+private:
+    Q_DISABLE_COPY(QKXNumeric)
+    Q_DECLARE_PRIVATE(QKXNumeric)
+};
+
+#endif // QKXNUMERIC_H

@@ -1,0 +1,54 @@
+#ifndef QKXNUMERICEVENTFILTER_H
+#define QKXNUMERICEVENTFILTER_H
+
+#include "QKXEditStateFilter.h"
+
+class QLineEdit;
+class QKXNumericEventFilterPrivate;
+
+// The edit filter of a numeric field bound to an "Int" or "Double" attribute. It enables the field's
+// display for the length of an edit, commits what is typed there on Return or Enter, and carries every
+// commit out as submit(double) followed by submit(int); popup editors chain their own submits to it.
+// The data type is published as the dynamic property "DataType", which the popups read.
+class STANDALONEPLUGINS_EXPORT QKXNumericEventFilter : public QKXEditStateFilter
+{
+    Q_OBJECT
+public:
+    // The parent is the watched widget; the adapter (may be null) offers the engine's current value
+    // through an invokable get() returning int or double, as the data type says.
+    QKXNumericEventFilter(QObject *parent, const QString &dataType, QObject *adapter);
+    ~QKXNumericEventFilter() override;
+
+    QString dataType() const;
+    // The value remembered when the current (or last) edit began; a cancel submits it again.
+    double savedValue() const;
+    // The watched widget's value display, or null while the filter has no widget with one.
+    QLineEdit *display() const;
+
+    // Replaces the adapter. A filter that has its widget by now also looks the display up again.
+    void setAdapter(QObject *adapter);
+
+    // Emits submit(double) and submit(int) with the value; the edit, if any, goes on.
+    Q_INVOKABLE void submitWidgetValue(double value);
+
+Q_SIGNALS:
+    void submit(double value);
+    void submit(int value);
+
+protected Q_SLOTS:
+    void idleStateInit() override;
+    void editStateInit() override;
+
+protected:
+    bool keyEventFilter(QObject *watched, QKeyEvent *event) override;
+    bool hideEventFilter(QObject *watched, QEvent *event) override;
+    void attempLockSendLockSignal(QWidget *widget, bool locked) override;
+    void rememberValue() override;
+    void restoreValue() override;
+
+private:
+    Q_DISABLE_COPY(QKXNumericEventFilter)
+    Q_DECLARE_PRIVATE(QKXNumericEventFilter)
+};
+
+#endif // QKXNUMERICEVENTFILTER_H

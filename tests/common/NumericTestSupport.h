@@ -1,0 +1,71 @@
+#ifndef NUMERICTESTSUPPORT_H
+#define NUMERICTESTSUPPORT_H
+
+// What the tests of numeric entry share: catching the library's debug lines, engine adapters that
+// hand out a current value, and one ordered log of everything a filter emits.
+
+#include <QtTest>
+
+#include <QLineEdit>
+
+#include "QKXNumericEventFilter.h"
+
+namespace kxtest {
+
+// Collects the library's "UserInterface - " lines; everything else goes on to the usual handler.
+class NumericDebugLines
+{
+public:
+    NumericDebugLines() { previous() = qInstallMessageHandler(&NumericDebugLines::handle); lines().clear(); }
+    ~NumericDebugLines() { qInstallMessageHandler(previous()); }
+    static QStringList &lines() { static QStringList all; return all; }
+
+private:
+    static QtMessageHandler &previous() { static QtMessageHandler handler = nullptr; return handler; }
+    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &msg)
+    {
+        if (type == QtDebugMsg && msg.startsWith(QLatin1String("UserInterface - "))) {
+            lines() << msg.trimmed();
+            return;
+        }
+        if (previous())
+            previous()(type, context, msg);
+    }
+};
+
+class IntAdapter : public QObject
+{
+    Q_OBJECT
+public:
+    explicit IntAdapter(int value) : current(value) {}
+    Q_INVOKABLE int get() const { return current; }
+    int current;
+};
+
+class DoubleAdapter : public QObject
+{
+    Q_OBJECT
+public:
+    explicit DoubleAdapter(double value) : current(value) {}
+    Q_INVOKABLE double get() const { return current; }
+    double current;
+};
+
+// Records a filter's traffic in the order it is emitted, one entry per signal:
+// "double 2.75", "int 2", "editStart", "editEnd", "lock", "release".
+inline void logFilter(QKXNumericEventFilter *filter, QStringList &log)
+{
+    QObject::connect(filter, QOverload<double>::of(&QKXNumericEventFilter::submit),
+                     [&log](double v) { log << QStringLiteral("double ") + QString::number(v, 'g', 12); });
+    QObject::connect(filter, QOverload<int>::of(&QKXNumericEventFilter::submit),
+                     [&log](int v) { log << QStringLiteral("int ") + QString::number(v); });
+    QObject::connect(filter, &QKXEventFilterBase::editStart, [&log] { log << QStringLiteral("editStart"); });
+    QObject::connect(filter, &QKXEventFilterBase::editEnd, [&log] { log << QStringLiteral("editEnd"); });
+    QObject::connect(filter, &QKXEventFilterBase::attemptSetLock, [&log](QWidget *, bool locked) {
+        log << (locked ? QStringLiteral("lock") : QStringLiteral("release"));
+    });
+}
+
+} // namespace kxtest
+
+#endif // NUMERICTESTSUPPORT_H

@@ -1,0 +1,445 @@
+// Mouse events travel through the window system, as a finger on the panel does.
+#define QTEST_QPA_MOUSE_HANDLING
+#include <QtTest>
+
+#include <QApplication>
+#include <QGridLayout>
+#include <QLabel>
+
+#include "QKXRichTextPushButton.h"
+
+#include "EditorTestSupport.h"
+
+using kxtest::Screen;
+
+namespace {
+
+// Where a key sits: the grid that holds it and its cell there, or "row" for the control row and the
+// enter column.
+QString placeOf(QKXNumpad &pad, QWidget *key)
+{
+    for (QGridLayout *grid : pad.findChildren<QGridLayout *>()) {
+        const int index = grid->indexOf(key);
+        if (index < 0)
+            continue;
+        int row, column, rowSpan, columnSpan;
+        grid->getItemPosition(index, &row, &column, &rowSpan, &columnSpan);
+        const QString owner = grid->parentWidget()->objectName();
+        return QStringLiteral("%1 %2,%3 span %4").arg(owner.isEmpty() ? QStringLiteral("page") : owner).arg(row).arg(column).arg(columnSpan);
+    }
+    return QStringLiteral("row");
+}
+
+QString enabledDigits(QKXNumpad &pad)
+{
+    QString enabled;
+    for (int d = 0; d <= 9; ++d)
+        if (pad.button(QString::number(d))->isEnabled())
+            enabled += QString::number(d);
+    return enabled;
+}
+
+} // namespace
+
+class tst_QKXNumpad : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void keys_data();
+    void keys();
+    void geometry_data();
+    void geometry();
+    void styleSheet_data();
+    void styleSheet();
+    void signAndDotKeys_data();
+    void signAndDotKeys();
+    void keyEdits_data();
+    void keyEdits();
+    void commit_data();
+    void commit();
+    void reRegistrationCancelsPrevious();
+    void unknownDataType();
+    void placement_data();
+    void placement();
+};
+
+void tst_QKXNumpad::keys_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("objectName");
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<QString>("place");
+
+    QTest::newRow("cancel") << "cancel" << "cancel" << "Cancel" << "row";
+    QTest::newRow("clear") << "clear" << "clear" << "Clear" << "row";
+    QTest::newRow("bksp") << "bksp" << "bksp" << " " << "row";
+    QTest::newRow("1") << "1" << "kbBtnLeft" << "1" << "NumpadFrame 0,0 span 1";
+    QTest::newRow("2") << "2" << "kbBtn" << "2" << "NumpadFrame 0,1 span 1";
+    QTest::newRow("7") << "7" << "kbBtnLeft" << "7" << "NumpadFrame 2,0 span 1";
+    QTest::newRow("9") << "9" << "kbBtn" << "9" << "NumpadFrame 2,2 span 1";
+    QTest::newRow("0") << "0" << "kbBtnBottom" << "0" << "NumpadFrame 3,1 span 1";
+    QTest::newRow("dot") << "dot" << "kbBtnBottomLeft" << "." << "NumpadFrame 3,0 span 1";
+    QTest::newRow("plmin") << "plmin" << "kbBtnBottom" << QString::fromUtf8("±") << "NumpadFrame 3,2 span 1";
+    QTest::newRow("enter") << "enter" << "enter" << "Enter" << "row";
+    QTest::newRow("B") << "B" << "kbBtn" << "B" << "page 1,0 span 1";
+    QTest::newRow("D") << "D" << "kbBtnRight" << "D" << "page 0,1 span 1";
+    QTest::newRow("F") << "F" << "kbBtnRight" << "F" << "page 2,1 span 1";
+    QTest::newRow("hexEnter") << "hexEnter" << "enter" << "Enter" << "page 3,0 span 2";
+}
+
+void tst_QKXNumpad::keys()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, objectName);
+    QFETCH(QString, caption);
+    QFETCH(QString, place);
+
+    QKXNumpad pad;
+    QCOMPARE(pad.objectName(), QStringLiteral("NumpadEntry"));
+    QCOMPARE(pad.buttonNames().size(), 23);
+    QPushButton *button = pad.button(key);
+    QVERIFY(button);
+    QCOMPARE(button->objectName(), objectName);
+    QCOMPARE(button->text(), caption);
+    QCOMPARE(placeOf(pad, button), place);
+    QCOMPARE(button->focusPolicy(), Qt::NoFocus);
+    QCOMPARE(button->sizePolicy(), QSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum));
+
+    // The units page holds four rich-text keys, one a row.
+    auto *unit = qobject_cast<QKXRichTextPushButton *>(pad.unitButton(3));
+    QVERIFY(unit);
+    QCOMPARE(unit->objectName(), QStringLiteral("unit"));
+    QCOMPARE(placeOf(pad, unit), QStringLiteral("page 3,0 span 1"));
+    QVERIFY(!pad.unitButton(4));
+}
+
+void tst_QKXNumpad::geometry_data()
+{
+    QTest::addColumn<int>("base");
+    QTest::addColumn<int>("w");
+    QTest::addColumn<QString>("digits");
+
+    QTest::newRow("dec") << 10 << 260 << "0123456789";
+    QTest::newRow("hex") << 16 << 318 << "0123456789";
+    QTest::newRow("oct") << 8 << 260 << "01234567";
+    QTest::newRow("bin") << 2 << 260 << "01";
+}
+
+void tst_QKXNumpad::geometry()
+{
+    QFETCH(int, base);
+    QFETCH(int, w);
+    QFETCH(QString, digits);
+    const int h = 400;
+
+    Screen screen;
+    screen.field->setBaseType(QKXNumeric::BaseType(base));
+    QVERIFY(screen.show());
+    QVERIFY(screen.tapAndWaitForPad());
+    QKXNumpad &pad = *screen.pad;
+    QCOMPARE(enabledDigits(pad), digits);
+    QCOMPARE(pad.size(), QSize(w, h));
+    QCOMPARE(pad.findChild<QFrame *>(QStringLiteral("MainFrame"))->geometry(), QRect(0, 0, w - 4, h - 4));
+    QCOMPARE(pad.findChild<QFrame *>(QStringLiteral("TopOverlay"))->geometry(), QRect(0, 0, w - 60, 64));
+    QCOMPARE(pad.findChild<QFrame *>(QStringLiteral("BottomOverlay"))->geometry(), QRect(0, 78, w - 60, h - 82));
+    // At least 40 high: the sheet's 40-pixel text height comes on top of the border.
+    QCOMPARE(pad.display()->geometry(), QRect(10, 10, w - 20, qMax(40, pad.display()->height())));
+    QCOMPARE(pad.caption()->geometry(), QRect(18, 62, w - 36, 18));
+    QCOMPARE(pad.findChild<QFrame *>(QStringLiteral("NumpadFrame"))->geometry(), QRect(0, 78, w, h - 128));
+    QCOMPARE(pad.rotateButton()->geometry(), QRect(w - 46, h - 46, 36, 36));
+    QCOMPARE(pad.rotateButton()->objectName(), QStringLiteral("RotateEntry"));
+    QVERIFY(pad.rotateButton()->isVisible());
+    QVERIFY(!pad.findChild<QWidget *>(QStringLiteral("ContainerControl"))->isVisible());
+    QCOMPARE(pad.button(QStringLiteral("A"))->isVisible(), base == 16);
+    QCOMPARE(pad.button(QStringLiteral("enter"))->isVisible(), base != 16);
+
+    // The next field, in base 10, gets the whole decimal pad back.
+    screen.press(QStringLiteral("cancel"));
+    screen.field->setBaseType(QKXNumeric::DEC);
+    QVERIFY(screen.tapAndWaitForPad());
+    QCOMPARE(enabledDigits(pad), QStringLiteral("0123456789"));
+    QCOMPARE(pad.size(), QSize(260, h));
+}
+
+void tst_QKXNumpad::styleSheet_data()
+{
+    QTest::addColumn<QVariant>("noTransparency");
+    QTest::addColumn<bool>("opaque");
+
+    QTest::newRow("absent") << QVariant() << false;
+    QTest::newRow("text true") << QVariant(QStringLiteral("true")) << true;
+    QTest::newRow("bool true") << QVariant(true) << true;
+    QTest::newRow("other text") << QVariant(QStringLiteral("yes")) << false;
+}
+
+void tst_QKXNumpad::styleSheet()
+{
+    QFETCH(QVariant, noTransparency);
+    QFETCH(bool, opaque);
+
+    qApp->setProperty("-notransparency", noTransparency);
+    QKXNumpad pad;
+    qApp->setProperty("-notransparency", QVariant());
+
+    const QString sheet = pad.styleSheet();
+    const QString opaquePanel = QStringLiteral("QFrame#MainFrame{    background-color: #000;}");
+    QCOMPARE(sheet.endsWith(opaquePanel), opaque);
+    QCOMPARE(sheet.count(opaquePanel), opaque ? 1 : 0);
+    // The application supplies these images under exactly these names.
+    for (const char *image : {"url(:/images/backspace.png)", "url(:/images/bksp_pressed.png)",
+                              "url(:/images/rotateEntry.png)", "url(:/images/rotateEntryPressed.png)"})
+        QVERIFY2(sheet.contains(QLatin1String(image)), image);
+}
+
+void tst_QKXNumpad::signAndDotKeys_data()
+{
+    QTest::addColumn<QString>("dataType");
+    QTest::addColumn<int>("precision");
+    QTest::addColumn<double>("lower");
+    QTest::addColumn<bool>("dot");
+    QTest::addColumn<bool>("sign");
+
+    QTest::newRow("int") << "Int" << 3 << 0.0 << false << false;
+    QTest::newRow("int, negative lower limit") << "Int" << 0 << -0.5 << false << true;
+    QTest::newRow("double, no decimals") << "Double" << 0 << -10.0 << false << true;
+    QTest::newRow("double, decimals") << "Double" << 2 << 5.0 << true << false;
+}
+
+void tst_QKXNumpad::signAndDotKeys()
+{
+    QFETCH(QString, dataType);
+    QFETCH(int, precision);
+    QFETCH(double, lower);
+    QFETCH(bool, dot);
+    QFETCH(bool, sign);
+
+    Screen screen(dataType);
+    screen.field->setPrecision(precision);
+    screen.field->setLowerLimit(lower);
+    screen.field->setValue(4);
+    QVERIFY(screen.show());
+    QVERIFY(screen.tapAndWaitForPad());
+    QCOMPARE(screen.pad->button(QStringLiteral("dot"))->isEnabled(), dot);
+    QCOMPARE(screen.pad->button(QStringLiteral("plmin"))->isEnabled(), sign);
+    QCOMPARE(screen.pad->display()->text(), screen.entry->text());
+    // Keys never take the focus from the field being edited.
+    QCOMPARE(screen.pad->button(QStringLiteral("7"))->focusProxy(), screen.entry);
+    QCOMPARE(QApplication::focusWidget(), screen.entry);
+}
+
+void tst_QKXNumpad::keyEdits_data()
+{
+    QTest::addColumn<QString>("start");
+    QTest::addColumn<int>("cursor");   // -1: the whole text selected
+    QTest::addColumn<double>("lower");
+    QTest::addColumn<double>("upper");
+    QTest::addColumn<QStringList>("keys");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("first digit replaces") << "12.5" << -1 << -10.0 << 10.0 << QStringList({"7", "3"}) << "73";
+    QTest::newRow("sign off and on") << "-12" << 3 << -10.0 << 10.0 << QStringList({"plmin", "plmin"}) << "-12";
+    QTest::newRow("sign removes first minus") << "7-3" << 3 << -10.0 << 10.0 << QStringList({"plmin"}) << "73";
+    QTest::newRow("sign on empty") << "" << 0 << -10.0 << 10.0 << QStringList({"plmin"}) << "-";
+    QTest::newRow("sign over selection") << "123" << -1 << -10.0 << 10.0 << QStringList({"plmin"}) << "-";
+    QTest::newRow("backspace drops lone sign") << "-5" << 2 << -10.0 << 10.0 << QStringList({"bksp"}) << "";
+    QTest::newRow("backspace at start") << "12" << 0 << -10.0 << 10.0 << QStringList({"bksp"}) << "12";
+    QTest::newRow("backspace keeps cursor") << "123" << 2 << -10.0 << 10.0 << QStringList({"bksp", "9"}) << "193";
+    QTest::newRow("dot on empty") << "" << 0 << -10.0 << 10.0 << QStringList({"dot", "5"}) << "0.5";
+    QTest::newRow("dot at cursor") << "125" << 2 << -10.0 << 10.0 << QStringList({"dot"}) << "12.5";
+    QTest::newRow("second dot refused") << "1.5" << 3 << -10.0 << 10.0 << QStringList({"dot"}) << "1.5";
+    QTest::newRow("dot over selection with dot") << "1.5" << -1 << -10.0 << 10.0 << QStringList({"dot"}) << "0.";
+    QTest::newRow("dot over selection") << "12" << -1 << -10.0 << 10.0 << QStringList({"dot", "5"}) << ".5";
+    QTest::newRow("clear") << "12.5" << 4 << -10.0 << 10.0 << QStringList({"clear"}) << "";
+    QTest::newRow("negative range: clear leaves sign") << "-12" << 3 << -100.0 << -1.0 << QStringList({"clear", "4"}) << "-4";
+    QTest::newRow("negative range: digit on empty") << "-5" << 2 << -100.0 << -1.0 << QStringList({"bksp", "5"}) << "-5";
+    QTest::newRow("negative range: digit over selection") << "-12" << -1 << -100.0 << -1.0 << QStringList({"7"}) << "-7";
+    QTest::newRow("negative range: typed text signed") << "35" << 3 << -100.0 << -1.0 << QStringList() << "-35";
+    QTest::newRow("upper limit 0 is not negative") << "" << 0 << -100.0 << 0.0 << QStringList({"5"}) << "5";
+}
+
+void tst_QKXNumpad::keyEdits()
+{
+    QFETCH(QString, start);
+    QFETCH(int, cursor);
+    QFETCH(double, lower);
+    QFETCH(double, upper);
+    QFETCH(QStringList, keys);
+    QFETCH(QString, text);
+
+    Screen screen(QStringLiteral("Double"));
+    screen.field->setPrecision(2);
+    screen.field->setLowerLimit(lower);
+    screen.field->setUpperLimit(upper);
+    QVERIFY(screen.show());
+    QVERIFY(screen.tapAndWaitForPad());
+
+    // Typed in on the keyboard first, the way the pad mirrors it.
+    screen.entry->selectAll();
+    if (start.isEmpty())
+        QTest::keyClick(screen.entry, Qt::Key_Backspace);
+    else
+        QTest::keyClicks(screen.entry, start);
+    if (cursor < 0)
+        screen.entry->selectAll();
+    else
+        screen.entry->setCursorPosition(cursor);
+    for (const QString &key : keys)
+        screen.press(key);
+
+    QCOMPARE(screen.entry->text(), text);
+    QCOMPARE(screen.pad->display()->text(), text);
+    QVERIFY(screen.filter->isEditing());
+}
+
+void tst_QKXNumpad::commit_data()
+{
+    QTest::addColumn<QString>("dataType");
+    QTest::addColumn<int>("base");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("submitted");
+    QTest::addColumn<QString>("debugLine");
+
+    const QString unread = QStringLiteral("UserInterface - QKXNumpad: \"%1\" is not a number in base %2 - committing 0");
+    const QString beyond = QStringLiteral("UserInterface - QKXNumpad: \"%1\" is beyond the integer range - committing %2");
+    QTest::newRow("int hex") << "Int" << 16 << "1F" << "int 31" << "";
+    QTest::newRow("int bin negative") << "Int" << 2 << "-101" << "int -5" << "";
+    QTest::newRow("int dec truncates") << "Int" << 10 << "-2.9" << "int -2" << "";
+    QTest::newRow("double") << "Double" << 10 << "2.5" << "double 2.5" << "";
+    QTest::newRow("lone sign") << "Int" << 10 << "-" << "int 0" << unread.arg("-", "10");
+    QTest::newRow("sign and dot") << "Double" << 10 << "-." << "double 0" << unread.arg("-.", "10");
+    QTest::newRow("nan") << "Double" << 10 << "nan" << "double 0" << unread.arg("nan", "10");
+    QTest::newRow("fraction in hex") << "Int" << 16 << "1.5" << "int 0" << unread.arg("1.5", "16");
+    QTest::newRow("huge int") << "Int" << 10 << "99999999999" << "int 2147483647" << beyond.arg("99999999999", "2147483647");
+    QTest::newRow("huge hex") << "Int" << 16 << "-FFFFFFFFF" << "int -2147483648" << beyond.arg("-FFFFFFFFF", "-2147483648");
+}
+
+void tst_QKXNumpad::commit()
+{
+    QFETCH(QString, dataType);
+    QFETCH(int, base);
+    QFETCH(QString, text);
+    QFETCH(QString, submitted);
+    QFETCH(QString, debugLine);
+
+    QStringList seen;
+    Screen screen(dataType);
+    kxtest::logFilter(screen.filter, seen);
+    screen.field->setBaseType(QKXNumeric::BaseType(base));
+    QVERIFY(screen.show());
+    QVERIFY(screen.tapAndWaitForPad());
+    screen.entry->setText(text);
+    seen.clear();
+
+    kxtest::NumericDebugLines debug;
+    QSignalSpy padEnd(screen.pad, &QKXKeyPadBase::editEnd);
+    screen.press(base == 16 ? QStringLiteral("hexEnter") : QStringLiteral("enter"));
+
+    // The pad's commit leaves through the filter in the data type's one form only.
+    QCOMPARE(seen, QStringList({submitted, "editEnd", "release"}));
+    QCOMPARE(debug.lines(), debugLine.isEmpty() ? QStringList() : QStringList(debugLine));
+    QCOMPARE(padEnd.count(), 1);
+    QVERIFY(!screen.pad->isVisible());
+    QVERIFY(!screen.pad->registeredFilter());
+    QVERIFY(!screen.entry->isEnabled());
+
+    // Unchained: the pad's signals no longer reach the filter.
+    seen.clear();
+    emit screen.pad->submit(5);
+    emit screen.pad->done();
+    QVERIFY(seen.isEmpty());
+}
+
+void tst_QKXNumpad::reRegistrationCancelsPrevious()
+{
+    QStringList first;
+    QStringList second;
+    Screen screen(QStringLiteral("Int"));
+    screen.intAdapter.current = 11;
+    kxtest::logFilter(screen.filter, first);
+
+    // A second field on the screen, edited without lock (no adapter), on the same pad.
+    auto *other = new QKXNumeric(&screen.window);
+    other->setGeometry(40, 300, 200, 60);
+    other->setBaseType(QKXNumeric::OCT);
+    auto *otherFilter = new QKXNumericEventFilter(other, QStringLiteral("Int"), nullptr);
+    other->installEventFilter(otherFilter);
+    kxtest::logFilter(otherFilter, second);
+    QObject::connect(otherFilter, &QKXEventFilterBase::editStart, screen.pad, &QKXNumpad::registerWidget);
+    QVERIFY(screen.show());
+    QVERIFY(screen.tapAndWaitForPad());
+    first.clear();
+    second.clear();
+
+    otherFilter->forceClick();
+    QCOMPARE(first, QStringList({"int 11", "editEnd", "release"}));
+    QCOMPARE(screen.pad->registeredWidget(), other);
+    QVERIFY(screen.pad->isVisible());
+    QTRY_VERIFY(otherFilter->isEditing());
+    screen.press(QStringLiteral("1"));
+    screen.press(QStringLiteral("7"));
+    screen.press(QStringLiteral("enter"));
+    QCOMPARE(second, QStringList({"editStart", "int 15", "editEnd", "release"}));
+    QCOMPARE(first, QStringList({"int 11", "editEnd", "release"}));
+}
+
+void tst_QKXNumpad::unknownDataType()
+{
+    QStringList seen;
+    Screen screen(QStringLiteral("Bogus"));
+    kxtest::logFilter(screen.filter, seen);
+    QVERIFY(screen.show());
+    kxtest::NumericDebugLines debug;
+    QVERIFY(screen.tapAndWaitForPad());
+
+    QCOMPARE(debug.lines().size(), 1);
+    const QString line = debug.lines().first();
+    QVERIFY2(line.startsWith(QLatin1String("UserInterface - QKXNumpad attempting to register unknown data type: "
+                                           "\"Bogus\" Widget: QKXNumeric(")) && line.endsWith(QLatin1String(", name=\"Channel\")")),
+             qPrintable(line));
+
+    seen.clear();
+    screen.press(QStringLiteral("4"));
+    screen.press(QStringLiteral("enter"));
+    QCOMPARE(seen, QStringList({"editEnd", "release"}));
+}
+
+void tst_QKXNumpad::placement_data()
+{
+    QTest::addColumn<QSize>("window");
+    QTest::addColumn<QRect>("field");
+    QTest::addColumn<int>("base");
+    QTest::addColumn<QPoint>("place");
+
+    QTest::newRow("below right") << QSize(800, 600) << QRect(40, 40, 200, 60) << 10 << QPoint(245, 105);
+    QTest::newRow("pushed up") << QSize(800, 480) << QRect(40, 40, 200, 60) << 10 << QPoint(245, 80);
+    QTest::newRow("just fits right") << QSize(800, 600) << QRect(0, 0, 534, 60) << 10 << QPoint(539, 65);
+    QTest::newRow("touching right edge flips") << QSize(800, 600) << QRect(300, 0, 235, 60) << 10 << QPoint(35, 65);
+    QTest::newRow("hex pad flips") << QSize(800, 480) << QRect(400, 40, 200, 60) << 16 << QPoint(77, 80);
+    QTest::newRow("no room either side") << QSize(800, 480) << QRect(100, 40, 650, 60) << 10 << QPoint(540, 80);
+    QTest::newRow("left side ends at 0") << QSize(800, 480) << QRect(265, 40, 500, 60) << 10 << QPoint(540, 80);
+    QTest::newRow("window smaller than pad") << QSize(200, 300) << QRect(10, 10, 50, 30) << 10 << QPoint(0, 0);
+}
+
+void tst_QKXNumpad::placement()
+{
+    QFETCH(QSize, window);
+    QFETCH(QRect, field);
+    QFETCH(int, base);
+    QFETCH(QPoint, place);
+
+    Screen screen;
+    screen.window.resize(window);
+    // The field sits in a panel of the window: placement works in the window's coordinates.
+    auto *panel = new QWidget(&screen.window);
+    panel->setGeometry(10, 20, window.width(), window.height());
+    screen.field->setParent(panel);
+    screen.field->setGeometry(field.translated(-10, -20));
+    screen.field->setBaseType(QKXNumeric::BaseType(base));
+    QVERIFY(screen.show());
+    QVERIFY(screen.tapAndWaitForPad());
+    QCOMPARE(screen.pad->pos(), place);
+}
+
+QTEST_MAIN(tst_QKXNumpad)
+#include "tst_QKXNumpad.moc"

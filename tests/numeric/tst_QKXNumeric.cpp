@@ -1,0 +1,195 @@
+#include <QtTest>
+
+#include <QLineEdit>
+
+#include "CSS.h"
+#include "QKXNumeric.h"
+
+#include "../common/NumericTestSupport.h"
+
+#include <limits>
+
+// The compact and large sheets as themes match them, written out independently of the library.
+static QString sheet(const char *font, const char *height, const char *labelFont)
+{
+    return QStringLiteral("QLineEdit {    padding: 1px 5px 0px 5px;    margin: 0px;    border: 2px solid #fff;    "
+                          "border-radius: 10px;    /* font-family: Mono; */    font-size: %1;    color: #000;    "
+                          "min-height: %2;    max-height: %2;    background-color: #fff;    selection-color: #000;    "
+                          "selection-background-color:%3;}QLineEdit:disabled {    background: transparent;    "
+                          "border: 2px solid #fff;    color: #fff;}QLabel#Label {    font-size: %4;    "
+                          "padding: 4px 5px 0px 8px;    margin: 0px 0px 0px 0px;    border: none;    color: #fff;    "
+                          "min-height: 12px;}")
+        .arg(QLatin1String(font), QLatin1String(height), CSS::highlight(), QLatin1String(labelFont));
+}
+
+class tst_QKXNumeric : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void rendering_data();
+    void rendering();
+    void precision_data();
+    void precision();
+    void limitsAreNotEnforced();
+    void styles_data();
+    void styles();
+};
+
+void tst_QKXNumeric::rendering_data()
+{
+    QTest::addColumn<int>("base");
+    QTest::addColumn<int>("precision");
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStringList>("emitted");
+    QTest::addColumn<QString>("debugLine");
+
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double inf = std::numeric_limits<double>::infinity();
+    const QString kept = QStringLiteral("UserInterface - QKXNumeric \"Span\" cannot show %1 in base %2 - display kept");
+
+    QTest::newRow("dec rounds") << 10 << 1 << 1.26 << "1.3" << QStringList({"double 1.26", "int 1"}) << "";
+    QTest::newRow("dec precision 0") << 10 << 0 << 2.5 << QString::number(2.5, 'f', 0)
+                                     << QStringList({"double 2.5", "int 2"}) << "";
+    QTest::newRow("dec negative") << 10 << 0 << -1.9 << "-2" << QStringList({"double -1.9", "int -1"}) << "";
+    QTest::newRow("dec beyond int") << 10 << 0 << -3e9 << "-3000000000"
+                                    << QStringList({"double -3000000000", "int -2147483648"}) << "";
+    QTest::newRow("dec nan") << 10 << 2 << nan << "nan" << QStringList({"double nan", "int 0"}) << "";
+    QTest::newRow("dec inf") << 10 << 0 << inf << "inf" << QStringList({"double inf", "int 2147483647"}) << "";
+    QTest::newRow("hex") << 16 << 3 << 255.9 << "FF" << QStringList({"double 255.9", "int 255"}) << "";
+    QTest::newRow("hex negative") << 16 << 0 << -255.0 << "-FF" << QStringList({"double -255", "int -255"}) << "";
+    QTest::newRow("hex int min") << 16 << 0 << -2147483648.0 << "-80000000"
+                                 << QStringList({"double -2147483648", "int -2147483648"}) << "";
+    QTest::newRow("bin") << 2 << 0 << 5.0 << "101" << QStringList({"double 5", "int 5"}) << "";
+    QTest::newRow("oct") << 8 << 0 << -9.99 << "-11" << QStringList({"double -9.99", "int -9"}) << "";
+    QTest::newRow("hex beyond int") << 16 << 0 << 4294967296.0 << "7"
+                                    << QStringList({"double 4294967296", "int 2147483647"}) << kept.arg("4.29497e+09", "16");
+    QTest::newRow("hex nan") << 16 << 0 << nan << "7" << QStringList({"double nan", "int 0"}) << kept.arg("nan", "16");
+    QTest::newRow("bin -inf") << 2 << 0 << -inf << "111" << QStringList({"double -inf", "int -2147483648"})
+                              << kept.arg("-inf", "2");
+}
+
+void tst_QKXNumeric::rendering()
+{
+    QFETCH(int, base);
+    QFETCH(int, precision);
+    QFETCH(double, value);
+    QFETCH(QString, text);
+    QFETCH(QStringList, emitted);
+    QFETCH(QString, debugLine);
+
+    QKXNumeric w;
+    w.setAttributeName(QStringLiteral("Span"));
+    QVERIFY(w.setProperty("Base", base));
+    w.setValue(7);
+    w.setPrecision(precision);
+
+    QStringList log;
+    connect(&w, QOverload<double>::of(&QKXNumeric::valueChanged), [&log](double v) { log << "double " + QString::number(v, 'g', 12); });
+    connect(&w, QOverload<int>::of(&QKXNumeric::valueChanged), [&log](int v) { log << "int " + QString::number(v); });
+    kxtest::NumericDebugLines debug;
+    w.setValue(value);
+
+    QCOMPARE(w.findChild<QLineEdit *>()->text(), text);
+    QCOMPARE(log, emitted);
+    QCOMPARE(debug.lines(), debugLine.isEmpty() ? QStringList() : QStringList(debugLine));
+
+    // A new base shows from the next value on.
+    w.setBaseType(base == 10 ? QKXNumeric::HEX : QKXNumeric::DEC);
+    QCOMPARE(w.findChild<QLineEdit *>()->text(), text);
+}
+
+void tst_QKXNumeric::precision_data()
+{
+    QTest::addColumn<bool>("editing");
+    QTest::addColumn<int>("precision");
+    QTest::addColumn<QStringList>("log");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("debugLine");
+
+    QTest::newRow("idle re-renders") << false << 3 << QStringList({"double 2.5", "int 2", "precision 3"}) << "2.500" << "";
+    QTest::newRow("editing keeps the text") << true << 3 << QStringList({"precision 3"}) << "2.5" << "";
+    QTest::newRow("negative") << false << -2 << QStringList({"double 2.5", "int 2", "precision -2"})
+                              << QString::number(2.5, 'f', 0)
+                              << "UserInterface - QKXNumeric \"Level\" precision -2 out of range, showing 0 decimals";
+}
+
+void tst_QKXNumeric::precision()
+{
+    QFETCH(bool, editing);
+    QFETCH(int, precision);
+    QFETCH(QStringList, log);
+    QFETCH(QString, text);
+    QFETCH(QString, debugLine);
+
+    QKXNumeric w;
+    w.setAttributeName(QStringLiteral("Level"));
+    w.setPrecision(1);
+    w.setValue(2.5);
+    w.setProperty("Editing", editing);
+
+    QStringList seen;
+    connect(&w, QOverload<double>::of(&QKXNumeric::valueChanged), [&seen](double v) { seen << "double " + QString::number(v); });
+    connect(&w, QOverload<int>::of(&QKXNumeric::valueChanged), [&seen](int v) { seen << "int " + QString::number(v); });
+    connect(&w, &QKXNumeric::precisionChanged, [&seen](int p) { seen << "precision " + QString::number(p); });
+    kxtest::NumericDebugLines debug;
+
+    QVERIFY(w.setProperty("Precision", precision));
+    QCOMPARE(seen, log);
+    QCOMPARE(w.findChild<QLineEdit *>()->text(), text);
+    QCOMPARE(debug.lines(), debugLine.isEmpty() ? QStringList() : QStringList(debugLine));
+}
+
+void tst_QKXNumeric::limitsAreNotEnforced()
+{
+    QKXNumeric w;
+    w.setValue(10);
+    QStringList log;
+    connect(&w, &QKXNumeric::lowerLimitChanged, [&log](double v) { log << "lower " + QString::number(v); });
+    connect(&w, &QKXNumeric::upperLimitChanged, [&log](double v) { log << "upper " + QString::number(v); });
+
+    w.setUpperLimit(5);
+    QVERIFY(QMetaObject::invokeMethod(&w, "setLowerLimit", Q_ARG(int, -3)));
+    QVERIFY(w.setProperty("LowerLimit", 20.5));   // above the upper limit: stored as given
+    QCOMPARE(log, QStringList({"upper 5", "lower -3", "lower 20.5"}));
+    QCOMPARE(w.value(), 10.0);
+    QCOMPARE(w.findChild<QLineEdit *>()->text(), QStringLiteral("10"));
+}
+
+void tst_QKXNumeric::styles_data()
+{
+    QTest::addColumn<bool>("locked");
+    QTest::addColumn<bool>("readOnly");
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<QString>("expected");
+
+    const QString small = sheet("14px", "25px", "12px");
+    const QString large = sheet("20px", "32px", "16px");
+    const QString lock = QStringLiteral("QLineEdit:disabled {    background-image: url(:/images/lock_generic.png);    "
+                                        "background-position: top right;    background-repeat: no-repeat;}");
+    const QString readOnly = QStringLiteral("QLineEdit:disabled {    border-color: ") + CSS::border() + QStringLiteral(";}");
+    QTest::newRow("min") << false << false << "Min" << small;
+    QTest::newRow("max") << false << false << "Max" << large;
+    QTest::newRow("min locked") << true << false << "Min" << small + lock;
+    QTest::newRow("min read-only") << false << true << "Min" << small + readOnly;
+    QTest::newRow("max locked and read-only") << true << true << "Max" << large + lock + readOnly;
+}
+
+void tst_QKXNumeric::styles()
+{
+    QFETCH(bool, locked);
+    QFETCH(bool, readOnly);
+    QFETCH(QString, size);
+    QFETCH(QString, expected);
+
+    QKXNumeric w;
+    w.changeSize(size);
+    // Read-only first: the overlays keep their order whatever order the flags come in.
+    w.setReadOnly(readOnly);
+    w.setLocked(locked);
+    QCOMPARE(w.styleSheet(), expected);
+}
+
+QTEST_MAIN(tst_QKXNumeric)
+#include "tst_QKXNumeric.moc"
