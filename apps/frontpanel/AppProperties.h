@@ -1,0 +1,28 @@
+#ifndef APPPROPERTIES_H
+#define APPPROPERTIES_H
+
+#include <QString>
+#include <QStringList>
+
+// The application object's dynamic properties that the widget library reads. The host is the only
+// writer; every place in the application that changes one goes through here.
+namespace AppProperties {
+
+// "-size": the display mode. In the compact modes the widgets keep their compact look whatever size
+// variant the host asks for.
+QStringList displayModes();
+QString displayMode();
+// False, and nothing changes, for a mode the widgets do not know.
+bool setDisplayMode(const QString &mode);
+
+// "guilocked": while true, a tap on any widget only brings up the "Interface locked" notice.
+bool isGuiLocked();
+void setGuiLocked(bool locked);
+
+// "state": "initialized" once the screens are built; widgets that draw engine data wait for it.
+QString state();
+void markInitialized();
+
+} // namespace AppProperties
+
+#endif // APPPROPERTIES_H

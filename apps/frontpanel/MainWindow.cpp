@@ -1,0 +1,159 @@
+#include "MainWindow.h"
+
+#include "EditLockOwner.h"
+#include "HostWiring.h"
+#include "ScreenForms.h"
+#include "ScreenList.h"
+#include "SettingsFolder.h"
+#include "SimpleFileBrowser.h"
+#include "SimulatedEngine.h"
+#include "StatusStrip.h"
+#include "TopContainer.h"
+#include "WidgetNaming.h"
+
+#include "CSS.h"
+#include "GlobalImpl.h"
+#include "SystemModule.h"
+
+#include <QVBoxLayout>
+
+// Only object names and the panel's own dynamic properties are selected here: this sheet cascades
+// into every attribute widget, whose looks are their own, so no rule may match a bare QLabel or
+// QPushButton.
+static QString mainwindow_styleSheet()
+{
+    return QStringLiteral(R"(
+#MainWindow, #TopContainerObject { background-color: %1; }
+#StatusStrip {
+    background-color: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 %3, stop:1 %2);
+    border-bottom: 2px solid %5;
+}
+#ScreenTitle { color: white; font-size: 20px; font-weight: bold; }
+#StatusNotice { color: white; font-size: 15px; font-weight: bold; border-radius: 6px; padding: 3px 14px; }
+#StatusNotice[kind="info"] { background-color: %2; border: 1px solid %4; }
+#StatusNotice[kind="warning"] { background-color: #b3261e; border: 1px solid #ff8a80; }
+#GuiLockToggle, #SizeToggle {
+    color: white; font-size: 14px; min-height: 30px; max-height: 30px; padding: 0px 12px;
+    background-color: %1; border: 1px solid %4; border-radius: 8px;
+}
+#GuiLockToggle { min-width: 76px; }
+#GuiLockToggle:checked { background-color: %5; color: %1; font-weight: bold; }
+#GuiLockToggle:pressed, #SizeToggle:pressed { background-color: %2; }
+#ScreenStack { background-color: %1; }
+QFrame[panelSection="true"] {
+    background-color: %2; border: 1px solid %3; border-radius: 10px;
+}
+QLabel[panelCaption="true"] {
+    color: %5; font-size: 16px; font-weight: bold; background: transparent; border: none;
+    padding-bottom: 4px; border-bottom: 1px solid %3;
+}
+#ScreenTabs { background-color: %2; border-top: 2px solid %3; }
+#ScreenTab {
+    color: white; font-size: 17px; min-width: 120px; min-height: 40px; max-height: 40px;
+    background-color: %1; border: 1px solid %3; border-radius: 8px; padding: 0px 16px;
+}
+#ScreenTab:checked { background-color: %5; color: %1; font-weight: bold; border-color: %4; }
+)")
+        .arg(CSS::gradientDark(), CSS::gradientMiddle(), CSS::gradientLight(), CSS::border(), CSS::highlight());
+}
+
+MainWindow::MainWindow(SimulatedEngine *engine, QWidget *parent)
+    : QMainWindow(parent)
+    , simulatedEngine(engine)
+    , editLock(new EditLockOwner(this))
+    , hostWiring(new HostWiring(engine, editLock, this))
+    , top(new TopContainer(this))
+    , strip(new StatusStrip(top))
+    , screenList(new ScreenList(top))
+{
+    setObjectName(QStringLiteral("MainWindow"));
+    setWindowTitle(tr("Front panel"));
+    setFixedSize(PanelWidth, PanelHeight);
+    setStyleSheet(mainwindow_styleSheet());
+
+    auto *layout = new QVBoxLayout(top);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(strip);
+    layout->addWidget(screenList, 1);
+    setCentralWidget(top);
+
+    connect(editLock, &EditLockOwner::logged, simulatedEngine, &SimulatedEngine::appendLog);
+    connect(hostWiring, &HostWiring::guiLockedMessageRequested, this, &MainWindow::showGuiLockedNotice);
+    connect(simulatedEngine, &SimulatedEngine::commandExecuted, strip,
+            [this](const QString &name) { strip->showNotice(tr("%1 sent").arg(name)); });
+    connect(screenList, &ScreenList::currentScreenChanged, strip,
+            [this](int index) { strip->setTitle(screenList->screenTitle(index)); });
+    connect(strip, &StatusStrip::displayModeChanged, this, [this] {
+        for (int i = 0; i < screenList->count(); ++i) {
+            HostWiring::applySizeVariant(screenList->screen(i));
+        }
+    });
+
+    buildScreens();
+
+    // The host's file chooser: browse buttons listen to it, and it covers the panel while open.
+    auto *fileBrowser = new SimpleFileBrowser(this);
+    fileBrowser->setTitle(tr("Load settings"));
+    fileBrowser->setNameFilters({QStringLiteral("*.cfg")});
+    fileBrowser->setRootPath(SettingsFolder::prepare());
+
+    // Prompts take the main window as their parent and popups place themselves in its coordinates;
+    // full-screen overlays take the desktop's size, which on the panel is this window.
+    GlobalImpl *global = GlobalImpl::getInstance();
+    global->systemModule()->registerSystemScreen(QStringLiteral("MainWindow"), this);
+    global->systemModule()->registerSystemScreen(QStringLiteral("SimpleFileBrowser"), fileBrowser);
+    global->setDesktop(this);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::buildScreens()
+{
+    const QVector<ScreenForm> forms = screenForms();
+    for (const ScreenForm &form : forms) {
+        QWidget *page = form.build();
+        screenList->addScreen(form.id, page->windowTitle(), page);
+        hostWiring->wireScreen(page);
+        HostWiring::applySizeVariant(page);
+    }
+    screenList->setCurrentIndex(0);
+    strip->setTitle(screenList->screenTitle(screenList->currentIndex()));
+}
+
+void MainWindow::showGuiLockedNotice(QWidget *widget)
+{
+    const QString text = tr("Interface locked");
+    simulatedEngine->appendLog(QStringLiteral("notice %1 (%2)").arg(text, WidgetNaming::describe(widget)));
+    strip->showNotice(text, StatusStrip::Warning);
+}
+
+SimulatedEngine *MainWindow::engine() const
+{
+    return simulatedEngine;
+}
+
+EditLockOwner *MainWindow::lockOwner() const
+{
+    return editLock;
+}
+
+HostWiring *MainWindow::wiring() const
+{
+    return hostWiring;
+}
+
+ScreenList *MainWindow::screens() const
+{
+    return screenList;
+}
+
+StatusStrip *MainWindow::statusStrip() const
+{
+    return strip;
+}
+
+TopContainer *MainWindow::topContainer() const
+{
+    return top;
+}

@@ -1,0 +1,128 @@
+#include "AppProperties.h"
+#include "MainWindow.h"
+#include "ScreenList.h"
+#include "ScriptedSession.h"
+#include "SimulatedEngine.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QTextStream>
+
+#include <cstring>
+
+// Decided before the application object exists, because the platform plug-in is chosen when it is
+// built: without a display to show on, or when asked, the panel runs on the offscreen platform.
+static bool frontpanel_wantsHeadless(int argc, char *argv[])
+{
+    for (int i = 1; i < argc; ++i) {
+        if (std::strcmp(argv[i], "--headless") == 0) {
+            return true;
+        }
+    }
+    if (qgetenv("QT_QPA_PLATFORM") == "offscreen") {
+        return true;
+    }
+    return qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+static int frontpanel_runHeadless(MainWindow &window, const QString &outputDir, const QString &tapTarget)
+{
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    QDir dir(outputDir);
+    if (!dir.mkpath(QStringLiteral("."))) {
+        err << "frontpanel: cannot create " << dir.absolutePath() << '\n';
+        return 1;
+    }
+    out << "frontpanel: headless run on the " << QGuiApplication::platformName() << " platform, images in "
+        << dir.absolutePath() << Qt::endl;
+
+    window.show();
+    ScriptedSession session(&window);
+    bool ok = true;
+    QStringList images = session.renderScreens(dir);
+    if (images.size() != window.screens()->count()) {
+        err << "frontpanel: " << session.failure() << Qt::endl;
+        ok = false;
+    }
+    if (session.tapPushButton(tapTarget)) {
+        out << "frontpanel: scripted tap on " << tapTarget << " complete" << Qt::endl;
+    } else {
+        err << "frontpanel: scripted tap failed: " << session.failure() << Qt::endl;
+        ok = false;
+    }
+    const QString afterTap = session.renderWindow(dir, QStringLiteral("after-tap-%1").arg(tapTarget));
+    if (afterTap.isEmpty()) {
+        err << "frontpanel: " << session.failure() << Qt::endl;
+        ok = false;
+    } else {
+        images.append(afterTap);
+    }
+    if (session.playSwitchesRoads(dir, images)) {
+        out << "frontpanel: switches roads complete" << Qt::endl;
+    } else {
+        err << "frontpanel: switches road failed: " << session.failure() << Qt::endl;
+        ok = false;
+    }
+    if (session.playNumericRoad(dir, images)) {
+        out << "frontpanel: numeric road complete" << Qt::endl;
+    } else {
+        err << "frontpanel: numeric road failed: " << session.failure() << Qt::endl;
+        ok = false;
+    }
+    for (const QString &image : qAsConst(images)) {
+        out << image << '\n';
+    }
+    out.flush();
+    return ok ? 0 : 1;
+}
+
+int main(int argc, char *argv[])
+{
+    if (frontpanel_wantsHeadless(argc, argv)) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("frontpanel"));
+    QApplication::setApplicationVersion(QStringLiteral("0.1"));
+    // One look on the bench and in the rack, whatever the desktop around it prefers.
+    QApplication::setStyle(QStringLiteral("Fusion"));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Front panel of the instrument, with a simulated engine."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption sizeOption(QStringLiteral("size"),
+                                        QStringLiteral("Display mode: %1.").arg(AppProperties::displayModes().join(QStringLiteral(", "))),
+                                        QStringLiteral("mode"), QStringLiteral("normal"));
+    const QCommandLineOption guiLockedOption(QStringLiteral("guilocked"), QStringLiteral("Start with the interface locked."));
+    const QCommandLineOption headlessOption(QStringLiteral("headless"),
+                                            QStringLiteral("Render every screen to images and play a scripted tap, then exit."));
+    const QCommandLineOption outputOption(QStringLiteral("output"), QStringLiteral("Folder for the images of a headless run."),
+                                          QStringLiteral("dir"), QStringLiteral("screens"));
+    const QCommandLineOption tapOption(QStringLiteral("tap"), QStringLiteral("Attribute of the command button the headless run taps."),
+                                       QStringLiteral("attribute"), QStringLiteral("Preset"));
+    parser.addOptions({sizeOption, guiLockedOption, headlessOption, outputOption, tapOption});
+    parser.process(app);
+
+    if (!AppProperties::setDisplayMode(parser.value(sizeOption))) {
+        QTextStream(stderr) << "frontpanel: --size takes one of " << AppProperties::displayModes().join(QStringLiteral(", "))
+                            << Qt::endl;
+        return 2;
+    }
+    AppProperties::setGuiLocked(parser.isSet(guiLockedOption));
+
+    SimulatedEngine engine;
+    engine.setEchoToStdout(true);
+    MainWindow window(&engine);
+    // Widgets that draw engine data wait for this; the screens and their bindings now exist.
+    AppProperties::markInitialized();
+
+    const QString platform = QGuiApplication::platformName();
+    if (parser.isSet(headlessOption) || platform == QLatin1String("offscreen") || platform == QLatin1String("minimal")) {
+        return frontpanel_runHeadless(window, parser.value(outputOption), parser.value(tapOption));
+    }
+    window.show();
+    return app.exec();
+}
