@@ -1,7 +1,7 @@
 #include "QKXKeyPadBase.h"
 #include "QKXKeyPadBase_p.h"
 
-#include "KXPopupPlacement_p.h"
+#include "QKXPopupPlacement.h"
 
 #include "CSS.h"
 
@@ -370,7 +370,7 @@ void QKXKeyPadBase::showEvent(QShowEvent *event)
         resize(normalSize());
     }
     if (d->widget) {
-        const QPoint place = kxpopup::besideWidget(this, d->widget, size());
+        const QPoint place = QKXPopupPlacement::besideWidget(this, d->widget, size());
         move(place.x(), place.y());
     }
     ContainerImpl::showEvent(event);

@@ -182,6 +182,17 @@ void QKXWidgetBasePrivate::setOverlaidStyles(const QString &minTemplate, const Q
     changeSize(currentSizeName);
 }
 
+bool QKXWidgetBasePrivate::isCompactDisplayMode()
+{
+    return kx_isCompactDisplayMode();
+}
+
+bool QKXWidgetBasePrivate::isApplicationInitialized()
+{
+    const QVariant state = qApp ? qApp->property("state") : QVariant();
+    return state.toString() == QLatin1String("initialized");
+}
+
 QKXWidgetBase::QKXWidgetBase(QWidget *parent)
     : QKXWidgetBase(*new QKXWidgetBasePrivate(this), parent)
 {

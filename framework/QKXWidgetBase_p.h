@@ -60,6 +60,14 @@ public:
     void setOverlaidStyles(const QString &minTemplate, const QString &maxTemplate,
                            const QString &lockedOverlay, const QString &readOnlyOverlay);
 
+    // True in the display modes ("-size" "small_portrait" or "landscape") whose screens are too small
+    // for any widget's large look, and in which shown texts stay untranslated.
+    static bool isCompactDisplayMode();
+
+    // True once the application reports the end of its start-up ("state" "initialized"). Before it,
+    // records and values arrive in no fixed order, and a value a record lacks is not worth a line.
+    static bool isApplicationInitialized();
+
     QKXWidgetBase *q;
     QString attributeNameValue;
     QString currentSizeName;

@@ -31,6 +31,7 @@ QString CSS::gradientDark()
 
 QString CSS::accentRGBA()
 {
-    // Translucent so that the screen behind a popup column stays recognisable.
-    return QStringLiteral("rgba(88, 118, 150, 170)");
+    // Barely translucent: the screen behind a popup column shows as a hint, but its text must not
+    // compete with the literals on the column (a table behind a list popup made both unreadable).
+    return QStringLiteral("rgba(88, 118, 150, 235)");
 }

@@ -1,0 +1,45 @@
+#ifndef TABLEVIEWIMPL_H
+#define TABLEVIEWIMPL_H
+
+#include "norvanehost_export.h"
+
+#include <QScopedPointer>
+#include <QTableView>
+
+namespace Norvane {
+namespace gui {
+
+// The instrument's table: tall rows for fingers, no grid, a transparent body so that the screen (and
+// whatever the owner paints behind a row) shows through, and a wide scroll bar. A finger drags the
+// rows; the selection belongs to the owner of the table, never to a tap, so a tap leaves it as it was.
+class NORVANEHOST_EXPORT TableViewImpl : public QTableView
+{
+    Q_OBJECT
+public:
+    // Height of every row, in pixels.
+    static constexpr int RowHeight = 42;
+
+    explicit TableViewImpl(QWidget *parent = nullptr);
+    ~TableViewImpl() override;
+
+    // Whether a press on the rows is currently dragging them.
+    bool isDragging() const;
+
+protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event = nullptr) const override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+
+private:
+    Q_DISABLE_COPY(TableViewImpl)
+    struct Data;
+    QScopedPointer<Data> m;
+};
+
+} // namespace gui
+} // namespace Norvane
+
+#endif // TABLEVIEWIMPL_H

@@ -1,0 +1,176 @@
+#include <QtTest>
+
+#include <QLabel>
+#include <QTableView>
+#include <QItemSelectionModel>
+
+#include "../common/EnumTestSupport.h"
+#include "QKXComboBox.h"
+#include "QKXComboBoxList.h"
+#include "QKXComboEventFilter.h"
+#include "QKXComboListItem.h"
+#include "QKXComboWheel.h"
+#include "QKXTableEnum.h"
+#include "QKXWheelEnum.h"
+
+using kxtest::record;
+
+// Every enumerated widget and both popups read the same record; fed the same bad record they must
+// agree on the entries that count, report what is wrong once per widget, and never read past an end.
+class tst_EnumRecords : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void badRecords_data();
+    void badRecords();
+    void valueMissingFromRecord();
+};
+
+void tst_EnumRecords::badRecords_data()
+{
+    QTest::addColumn<QVariant>("rec");
+    QTest::addColumn<QStringList>("lines");     // %1 stands for the reporting widget
+    QTest::addColumn<QStringList>("entries");   // value=literal, in column order
+    QTest::addColumn<int>("value");
+    QTest::addColumn<QString>("shown");         // for that value, by the combo box and the wheel enum
+
+    QVariantMap map;
+    map.insert(QStringLiteral("1"), QStringLiteral("On"));
+    QTest::newRow("text") << QVariant(QStringLiteral("1,On"))
+                          << QStringList{"UserInterface - %1::setMetaData - record is not a list, shown as empty: QString"}
+                          << QStringList() << 1 << "";
+    QTest::newRow("map") << QVariant(map)
+                         << QStringList{"UserInterface - %1::setMetaData - record is not a list, shown as empty: QVariantMap"}
+                         << QStringList() << 1 << "";
+    QTest::newRow("number") << QVariant(5)
+                            << QStringList{"UserInterface - %1::setMetaData - record is not a list, shown as empty: int"}
+                            << QStringList() << 5 << "";
+    QTest::newRow("cleared") << QVariant() << QStringList() << QStringList() << 0 << "";
+
+    QVariantList shortEntries{QVariant(QVariantList{1}), QVariant(QVariantList()), QVariant(QStringLiteral("x")),
+                              QVariant(QVariantList{2, QStringLiteral("Two")}),
+                              QVariant(QVariantList{3, QStringLiteral("Three"), QStringLiteral("extra")})};
+    QTest::newRow("short entries") << QVariant(shortEntries)
+                                   << QStringList{"UserInterface - %1::setMetaData - entry 0 left out, it needs a value and a literal",
+                                                  "UserInterface - %1::setMetaData - entry 1 left out, it needs a value and a literal",
+                                                  "UserInterface - %1::setMetaData - entry 2 left out, it needs a value and a literal"}
+                                   << QStringList{"2=Two", "3=Three"} << 3 << "Three";
+    QTest::newRow("value listed three times") << record({{2, "A"}, {4, "D"}, {2, "B"}, {2, "C"}})
+                                              << QStringList{"UserInterface - %1::setMetaData - value 2 listed more than once, its last entry counts"}
+                                              << QStringList{"2=A", "4=D", "2=B", "2=C"} << 2 << "C";
+    QTest::newRow("empty literal") << record({{1, ""}, {2, "Two"}})
+                                   << QStringList{"UserInterface - %1::setMetaData - entry 0 (value 1) has an empty literal"}
+                                   << QStringList{"1=", "2=Two"} << 1 << "";
+    QTest::newRow("value that is no number") << QVariant(QVariantList{QVariant(QVariantList{QStringLiteral("x"), QStringLiteral("Ex")})})
+                                             << QStringList() << QStringList{"0=Ex"} << 0 << "Ex";
+    QTest::newRow("list of texts") << QVariant(QStringList{QStringLiteral("1"), QStringLiteral("On")})
+                                   << QStringList{"UserInterface - %1::setMetaData - record is not a list, shown as empty: QStringList"}
+                                   << QStringList() << 1 << "";
+    QStringList many;
+    for (int i = 0; i < 2000; ++i)
+        many << QStringLiteral("%1=Item %1").arg(i * 10);
+    QTest::newRow("two thousand entries") << kxtest::longRecord(2000) << QStringList() << many << 19990 << "Item 19990";
+}
+
+void tst_EnumRecords::badRecords()
+{
+    QFETCH(QVariant, rec);
+    QFETCH(QStringList, lines);
+    QFETCH(QStringList, entries);
+    QFETCH(int, value);
+    QFETCH(QString, shown);
+
+    kxtest::DebugLines debug;
+    QWidget screen;
+    screen.resize(800, 480);
+    auto *combo = new QKXComboBox(&screen);
+    combo->setGeometry(10, 10, 160, 60);
+    auto *wheel = new QKXWheelEnum(&screen);
+    wheel->setGeometry(10, 100, 160, 60);
+    auto *table = new QKXTableEnum(&screen);
+    table->setGeometry(300, 10, 400, 400);
+    auto *list = new QKXComboBoxList(&screen);
+    auto *wheelPopup = new QKXComboWheel(&screen);
+    screen.show();
+
+    // A good record first: a bad one replaces it entirely.
+    const QVariant good = record({{77, "Previous"}});
+    for (auto *w : std::initializer_list<QWidget *>{combo, wheel, table})
+        QMetaObject::invokeMethod(w, "setMetaData", Q_ARG(QVariant, good));
+    debug.take();
+
+    combo->setMetaData(rec);
+    wheel->setMetaData(rec);
+    table->setMetaData(rec);
+    QStringList expectedLines;
+    for (const char *reporter : {"QKXComboBoxPrivate", "QKXWheelEnumPrivate", "QKXTableEnumPrivate"})
+        for (const QString &line : lines)
+            expectedLines << line.arg(QLatin1String(reporter));
+    QCOMPARE(debug.take(), expectedLines);
+
+    combo->setIndex(value);
+    wheel->setIndex(value);
+    table->setIndex(value);
+    QCOMPARE(combo->text(), shown);
+    QCOMPARE(wheel->text(), shown);
+    QCOMPARE(table->rowCount(), entries.size());
+    QStringList rows;
+    const QAbstractItemModel *model = table->findChild<QTableView *>()->model();
+    for (int row = 0; row < table->rowCount(); ++row)
+        rows << QStringLiteral("%1=%2").arg(table->getRowIndex(row)).arg(model->index(row, 0).data().toString().mid(3));
+
+    // The popups list the same entries; each reads the record silently, the widget has reported it.
+    QKXComboEventFilter listFilter(combo);
+    list->registerWidget(&listFilter, combo);
+    QStringList listed;
+    for (int row = 0; row < list->shownItems().size(); ++row)
+        listed << QStringLiteral("%1=%2").arg(list->valueOfRow(row, -1)).arg(list->shownItems().at(row)->text());
+    QCOMPARE(listed, entries);
+    QKXComboEventFilter wheelFilter(wheel);
+    wheelPopup->registerWidget(&wheelFilter, wheel);
+    // The wheel has one item per value.
+    QSet<QString> values;
+    for (const QString &entry : entries)
+        values.insert(entry.section(QLatin1Char('='), 0, 0));
+    QCOMPARE(wheelPopup->shownItems().size(), values.size());
+    QCOMPARE(debug.take(), QStringList());
+    // Row by row the table agrees, but a row whose value a later entry took over answers 0.
+    if (QTest::currentDataTag() != QByteArray("value listed three times"))
+        QCOMPARE(rows, entries);
+    else
+        QCOMPARE(rows, QStringList({"0=A", "4=D", "0=B", "2=C"}));
+}
+
+void tst_EnumRecords::valueMissingFromRecord()
+{
+    kxtest::AppProperty state("state", QStringLiteral("initialized"));
+    QKXComboBox combo;
+    QKXWheelEnum wheel;
+    QKXTableEnum table;
+    const QVariant rec = record({{4, "FM"}, {2, "AM"}});
+    combo.setMetaData(rec);
+    wheel.setMetaData(rec);
+    table.setMetaData(rec);
+    combo.setIndex(4);
+    wheel.setIndex(4);
+    table.setIndex(4);
+
+    kxtest::DebugLines debug;
+    combo.setIndex(3);
+    wheel.setIndex(3);
+    table.setIndex(3);
+    // The combo box falls back to the smallest value's literal and says so; the wheel shows nothing;
+    // the table keeps its bar where it was, and says why.
+    QCOMPARE(combo.text(), QStringLiteral("AM"));
+    QCOMPARE(wheel.text(), QString());
+    QCOMPARE(table.findChild<QTableView *>()->selectionModel()->selectedRows().value(0).row(), 0);
+    QCOMPARE(debug.take(), QStringList({"UserInterface - QKXComboBoxPrivate::setIndex - got bad value: 3",
+                                        "UserInterface - QKXComboBoxPrivate::setIndex - using instead: 2 ; \"AM\"",
+                                        "UserInterface - QKXTableEnumPrivate::setIndex - no row for value: 3"}));
+    for (int v : {combo.currentIndex(), wheel.currentIndex(), table.currentIndex()})
+        QCOMPARE(v, 3);
+}
+
+QTEST_MAIN(tst_EnumRecords)
+#include "tst_EnumRecords.moc"

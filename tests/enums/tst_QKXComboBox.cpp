@@ -1,0 +1,387 @@
+// Mouse events travel through the window system, as a finger on the panel does.
+#define QTEST_QPA_MOUSE_HANDLING
+#include <QtTest>
+
+#include <QLabel>
+#include <QRegularExpression>
+#include <QVBoxLayout>
+
+#include "CSS.h"
+#include "../common/EnumTestSupport.h"
+#include "QKXComboBox.h"
+#include "QKXComboEventFilter.h"
+#include "QKXUtil.h"
+
+using kxtest::record;
+
+namespace {
+
+// Rules of a style sheet as "selector { property: value; ... }" lines, white space collapsed.
+QStringList describeSheet(const QString &sheet)
+{
+    QStringList out;
+    QRegularExpressionMatchIterator it = QRegularExpression(QStringLiteral("([^{}]+)\\{([^{}]*)\\}")).globalMatch(sheet);
+    while (it.hasNext()) {
+        const QRegularExpressionMatch m = it.next();
+        QStringList declarations;
+        for (const QString &d : m.captured(2).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+            if (!d.trimmed().isEmpty())
+                declarations << d.simplified().replace(QStringLiteral(" :"), QStringLiteral(":"));
+        }
+        out << m.captured(1).simplified() + QStringLiteral(" { ") + declarations.join(QStringLiteral("; ")) + QStringLiteral(" }");
+    }
+    return out;
+}
+
+// Records which events get past the edit filter to the widget itself: installed before the filter,
+// it runs after it.
+class Reached : public QObject
+{
+public:
+    QStringList events;
+    bool eventFilter(QObject *, QEvent *e) override
+    {
+        if (e->type() == QEvent::MouseButtonPress)
+            events << QStringLiteral("press");
+        else if (e->type() == QEvent::MouseButtonRelease)
+            events << QStringLiteral("release");
+        return false;
+    }
+};
+
+struct Stage
+{
+    Stage()
+    {
+        screen.resize(400, 200);
+        combo = new QKXComboBox(&screen);
+        combo->setGeometry(50, 40, 160, 60);
+        combo->installEventFilter(&reached);
+        filter = new QKXComboEventFilter(combo);
+        combo->installEventFilter(filter);
+        combo->setMetaData(record({{3, "Off"}, {1, "On"}}));
+        screen.show();
+    }
+    QLabel *field() const { return combo->findChild<QLabel *>(QStringLiteral("ComboText")); }
+
+    QWidget screen;
+    Reached reached;
+    QKXComboBox *combo;
+    QKXComboEventFilter *filter;
+};
+
+const char *const LockedOverlay = "    QLabel#ComboText {    background-image: url(:/images/lock_generic.png);"
+                                  "    background-position: top right;    background-repeat: no-repeat;}";
+
+} // namespace
+
+class tst_QKXComboBox : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void values_data();
+    void values();
+    void shownTextIsTranslatedAndProcessed();
+    void styleSheets_data();
+    void styleSheets();
+    void taps_data();
+    void taps();
+    void editMachine();
+    void machineWaitsForStartWithoutParent();
+};
+
+void tst_QKXComboBox::values_data()
+{
+    QTest::addColumn<QVariant>("rec");
+    QTest::addColumn<QString>("initializedBefore");
+    QTest::addColumn<QStringList>("steps");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QList<int>>("signalled");
+    QTest::addColumn<QStringList>("lines");
+
+    const QVariant offOn = record({{3, "Off"}, {1, "On"}});
+    const QStringList badValueLines{
+        "UserInterface - QKXComboBoxPrivate::setIndex - got bad value: 7",
+        "UserInterface - QKXComboBoxPrivate::setIndex - using instead: 1 ; \"On\""};
+
+    // setMetaData alone re-applies the start value 0, which the record lacks: the smallest value's
+    // literal is shown, and the signal carries 0.
+    QTest::newRow("record alone") << offOn << "never" << QStringList() << "On" << 0 << QList<int>{0} << QStringList();
+    QTest::newRow("record after start-up") << offOn << "record" << QStringList() << "On" << 0 << QList<int>{0}
+                                           << QStringList{"UserInterface - QKXComboBoxPrivate::setIndex - got bad value: 0",
+                                                          "UserInterface - QKXComboBoxPrivate::setIndex - using instead: 1 ; \"On\""};
+    QTest::newRow("known value") << offOn << "steps" << QStringList{"index 1"} << "On" << 1 << QList<int>{0, 1} << QStringList();
+    QTest::newRow("same value twice") << offOn << "steps" << QStringList{"index 3", "index 3"} << "Off" << 3
+                                      << QList<int>{0, 3, 3} << QStringList();
+    QTest::newRow("unknown value, starting up") << offOn << "never" << QStringList{"index 7"} << "On" << 7
+                                                << QList<int>{0, 7} << QStringList();
+    QTest::newRow("unknown value, initialized") << offOn << "steps" << QStringList{"index 7"} << "On" << 7
+                                                << QList<int>{0, 7} << badValueLines;
+    QTest::newRow("literal") << offOn << "steps" << QStringList{"text Off"} << "Off" << 3 << QList<int>{0, 3} << QStringList();
+    QTest::newRow("unknown literal") << offOn << "steps" << QStringList{"index 3", "text Auto"} << "Off" << 3
+                                     << QList<int>{0, 3} << QStringList();
+    QTest::newRow("new record keeps the value") << offOn << "steps" << QStringList{"index 3", "record 3:Aus,5:Ein"} << "Aus"
+                                                << 3 << QList<int>{0, 3, 3} << QStringList();
+    QTest::newRow("new record lacks the value") << offOn << "steps" << QStringList{"index 3", "record 5:Ein,4:Aus"} << "Aus"
+                                                << 3 << QList<int>{0, 3, 3}
+                                                << QStringList{"UserInterface - QKXComboBoxPrivate::setIndex - got bad value: 3",
+                                                               "UserInterface - QKXComboBoxPrivate::setIndex - using instead: 4 ; \"Aus\""};
+    QTest::newRow("empty record") << QVariant(QVariantList()) << "record" << QStringList{"index 4"} << "" << 4
+                                  << QList<int>{0, 4} << QStringList();
+    QTest::newRow("negative codes") << record({{-20, "Low"}, {-3, "Mid"}}) << "steps" << QStringList{"index -21"} << "Low"
+                                    << -21 << QList<int>{0, -21}
+                                    << QStringList{"UserInterface - QKXComboBoxPrivate::setIndex - got bad value: -21",
+                                                   "UserInterface - QKXComboBoxPrivate::setIndex - using instead: -20 ; \"Low\""};
+    QTest::newRow("repeated literal picks the later value") << record({{1, "Auto"}, {2, "Auto"}}) << "steps"
+                                                            << QStringList{"text Auto"} << "Auto" << 2 << QList<int>{0, 2}
+                                                            << QStringList();
+}
+
+void tst_QKXComboBox::values()
+{
+    QFETCH(QVariant, rec);
+    QFETCH(QString, initializedBefore);
+    QFETCH(QStringList, steps);
+    QFETCH(QString, shown);
+    QFETCH(int, index);
+    QFETCH(QList<int>, signalled);
+    QFETCH(QStringList, lines);
+
+    kxtest::AppProperty state("state", QStringLiteral("starting"));
+    kxtest::DebugLines debug;
+    QKXComboBox combo;
+    QSignalSpy changed(&combo, &QKXComboBox::currentIndexChanged);
+    if (initializedBefore == QLatin1String("record"))
+        qApp->setProperty("state", QStringLiteral("initialized"));
+    combo.setMetaData(rec);
+    if (initializedBefore == QLatin1String("steps"))
+        qApp->setProperty("state", QStringLiteral("initialized"));
+    for (const QString &step : steps) {
+        const QString arg = step.section(QLatin1Char(' '), 1);
+        if (step.startsWith(QLatin1String("index "))) {
+            QVERIFY(QMetaObject::invokeMethod(&combo, "setIndex", Q_ARG(int, arg.toInt())));
+        } else if (step.startsWith(QLatin1String("text "))) {
+            QVERIFY(combo.setProperty("Text", arg));
+        } else {
+            QList<QPair<int, QString>> entries;
+            for (const QString &pair : arg.split(QLatin1Char(',')))
+                entries.append({pair.section(QLatin1Char(':'), 0, 0).toInt(), pair.section(QLatin1Char(':'), 1)});
+            combo.setMetaData(record(entries));
+        }
+    }
+
+    QCOMPARE(combo.findChild<QLabel *>(QStringLiteral("ComboText"))->text(), shown);
+    QCOMPARE(combo.text(), shown);
+    QCOMPARE(combo.property("Text").toString(), shown);
+    QCOMPARE(combo.currentIndex(), index);
+    QList<int> values;
+    for (const QList<QVariant> &args : qAsConst(changed))
+        values << args.at(0).toInt();
+    QCOMPARE(values, signalled);
+    QCOMPARE(debug.take(), lines);
+}
+
+void tst_QKXComboBox::shownTextIsTranslatedAndProcessed()
+{
+    kxtest::WordTranslator german("On", "Ein");
+    qApp->installTranslator(&german);
+    QKXComboBox combo;
+    QLabel *field = combo.findChild<QLabel *>(QStringLiteral("ComboText"));
+    combo.setMetaData(record({{3, "Off"}, {1, "On"}, {2, "dBm^2"}}));
+    combo.setIndex(1);
+    QCOMPARE(field->text(), QStringLiteral("Ein"));
+    QCOMPARE(combo.text(), QStringLiteral("On"));   // the untranslated literal stays what the widget reports
+
+    // Accented literals come through translation whole.
+    combo.setMetaData(record({{3, "Off"}, {1, "On"}, {2, "dBm^2"}, {4, QStringLiteral("Crête")}}));
+    combo.setIndex(4);
+    QCOMPARE(field->text(), QStringLiteral("Crête"));
+
+    combo.setIndex(2);
+    QString processed = QStringLiteral("dBm^2");
+    QKXUtil::processString(processed);
+    QCOMPARE(field->text(), processed);
+
+    {
+        // The compact display modes show literals as the engine gives them, and never the large look.
+        kxtest::AppProperty mode("-size", QStringLiteral("landscape"));
+        combo.setIndex(1);
+        QCOMPARE(field->text(), QStringLiteral("On"));
+        combo.changeSize(QStringLiteral("Max"));
+        QCOMPARE(combo.currentSize(), QStringLiteral("Min"));
+    }
+    combo.changeSize(QStringLiteral("Max"));   // the size change re-applies the translation
+    QCOMPARE(combo.currentSize(), QStringLiteral("Max"));
+    QCOMPARE(field->text(), QStringLiteral("Ein"));
+    qApp->removeTranslator(&german);
+    combo.retranslate();
+    QCOMPARE(field->text(), QStringLiteral("On"));
+}
+
+void tst_QKXComboBox::styleSheets_data()
+{
+    QTest::addColumn<bool>("locked");
+    QTest::addColumn<bool>("readOnly");
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<QString>("overlay");
+
+    const QString readOnlyOverlay = QStringLiteral("QLabel#ComboText {    border-color: ") + CSS::border() + QStringLiteral(";}");
+    QTest::newRow("plain, compact") << false << false << "Min" << QString();
+    QTest::newRow("plain, large") << false << false << "Max" << QString();
+    QTest::newRow("locked") << true << false << "Min" << QString::fromLatin1(LockedOverlay);
+    QTest::newRow("locked, large") << true << false << "Max" << QString::fromLatin1(LockedOverlay);
+    QTest::newRow("read-only") << false << true << "Min" << readOnlyOverlay;
+    // Read-only wins: the padlock is not shown on a field that cannot be opened anyway.
+    QTest::newRow("locked and read-only") << true << true << "Max" << readOnlyOverlay;
+}
+
+void tst_QKXComboBox::styleSheets()
+{
+    QFETCH(bool, locked);
+    QFETCH(bool, readOnly);
+    QFETCH(QString, size);
+    QFETCH(QString, overlay);
+
+    const bool large = size == QLatin1String("Max");
+    const QStringList expectedTemplate{
+        QStringLiteral("QLabel#ComboText { background-color: transparent; color: #fff; border: 2px solid #fff; "
+                       "border-radius: 10px; margin: 0px; min-height: %1; max-height: %1; font-size: %2; padding: %3 }")
+            .arg(large ? "32px" : "25px", large ? "20px" : "14px", large ? "1px 5px 0px 5px" : "0px 5px 1px 5px"),
+        QStringLiteral("QLabel#Label { border: none; color: #fff; padding: 4px 5px 0px 8px; margin: 0px; "
+                       "min-height: 12px; font-size: %1 }")
+            .arg(large ? "16px" : "12px")};
+
+    QKXComboBox combo;
+    combo.setLocked(locked);
+    combo.setReadOnly(readOnly);
+    combo.changeSize(size);
+    QCOMPARE(combo.currentSize(), size);
+    const QString sheet = combo.styleSheet();
+    QVERIFY2(sheet.endsWith(overlay), qPrintable(sheet));
+    QCOMPARE(describeSheet(sheet.left(sheet.size() - overlay.size())), expectedTemplate);
+
+    // Taking the flags back restores the plain sheet exactly.
+    combo.setReadOnly(false);
+    combo.setLocked(false);
+    QCOMPARE(describeSheet(combo.styleSheet()), expectedTemplate);
+
+    combo.removeCSS();
+    QCOMPARE(combo.styleSheet(), QString());
+    combo.setLocked(true);
+    QCOMPARE(combo.styleSheet(), QString());
+}
+
+void tst_QKXComboBox::taps_data()
+{
+    QTest::addColumn<bool>("passThrough");
+    QTest::addColumn<QPoint>("travel");
+    QTest::addColumn<QString>("appState");
+    QTest::addColumn<QStringList>("host");
+    QTest::addColumn<QStringList>("widgetSees");
+
+    const QStringList release{"release"};
+    QTest::newRow("tap") << true << QPoint() << "" << QStringList{"lock requested"} << release;
+    QTest::newRow("tap, not passed through") << false << QPoint() << "" << QStringList{"lock requested"} << QStringList();
+    QTest::newRow("30 pixels is still a tap") << true << QPoint(20, -10) << "" << QStringList{"lock requested"} << release;
+    QTest::newRow("31 pixels is a drag") << true << QPoint(31, 0) << "" << QStringList() << release;
+    QTest::newRow("drag, not passed through") << false << QPoint(31, 0) << "" << QStringList() << release;
+    QTest::newRow("gui locked") << false << QPoint() << "guilocked" << QStringList{"gui locked"} << release;
+    // A read-only combo is left alone entirely: the press reaches it too.
+    QTest::newRow("read-only") << false << QPoint() << "readonly" << QStringList() << QStringList{"press", "release"};
+}
+
+void tst_QKXComboBox::taps()
+{
+    QFETCH(bool, passThrough);
+    QFETCH(QPoint, travel);
+    QFETCH(QString, appState);
+    QFETCH(QStringList, host);
+    QFETCH(QStringList, widgetSees);
+
+    kxtest::AppProperty guiLock("guilocked", appState == QLatin1String("guilocked"));
+    Stage s;
+    QVERIFY(QTest::qWaitForWindowExposed(&s.screen));
+    QTRY_VERIFY(s.filter->isMachineStarted());
+    QCoreApplication::processEvents();
+    QVERIFY(s.filter->setProperty("EventPassThrough", passThrough));
+    s.combo->setReadOnly(appState == QLatin1String("readonly"));
+    QStringList log;
+    kxtest::HostDouble hostSide(s.filter, s.combo, nullptr, log);
+    hostSide.grant = false;
+
+    // Pressed on the field, as a finger would: the field passes the press on to the widget.
+    const QPoint start = s.field()->mapTo(s.combo, s.field()->rect().center());
+    QTest::mousePress(s.combo, Qt::LeftButton, Qt::NoModifier, start);
+    if (!travel.isNull())
+        QTest::mouseMove(s.combo, start + travel);
+    QTest::mouseRelease(s.combo, Qt::LeftButton, Qt::NoModifier, start + travel);
+
+    QCOMPARE(log, host);
+    QCOMPARE(s.reached.events, widgetSees);
+}
+
+void tst_QKXComboBox::editMachine()
+{
+    Stage s;
+    QStringList log;
+    kxtest::HostDouble hostSide(s.filter, s.combo, nullptr, log);
+    hostSide.grant = false;
+    QSignalSpy notified(s.filter, &QKXComboEventFilter::notify);
+
+    // The machine starts idle, and idle lets go of the lock: once.
+    QTRY_COMPARE(log, QStringList{"lock released"});
+    log.clear();
+
+    QWidget stranger;
+    s.filter->lockAcquired(&stranger);
+    s.filter->lockSucessed(s.combo, false);
+    QCOMPARE(log, QStringList());
+    QVERIFY(!s.filter->isEditing());
+
+    s.filter->lockSucessed(s.combo, true);
+    QCOMPARE(log, QStringList{"editStart"});
+    QVERIFY(s.filter->isEditing());
+
+    // Live values do not end the edit; a submitted one does, before the host carries it out.
+    emit s.filter->notify(4);
+    QCOMPARE(notified.count(), 1);
+    QVERIFY(s.filter->isEditing());
+    log.clear();
+    QVERIFY(QMetaObject::invokeMethod(s.filter, "submitWidgetValue", Q_ARG(int, 1)));
+    QCOMPARE(log, QStringList({"editEnd", "lock released", "submit 1", "shown 1"}));
+    QVERIFY(!s.filter->isEditing());
+
+    // A cancel only ends the edit: the value shown was never touched.
+    s.filter->lockAcquired(s.combo);
+    log.clear();
+    QVERIFY(QMetaObject::invokeMethod(s.filter, "cancel"));
+    QCOMPARE(log, QStringList({"editEnd", "lock released"}));
+    QCOMPARE(s.combo->currentIndex(), 1);
+
+    // Hiding the widget mid-edit ends the edit the same way.
+    s.filter->lockAcquired(s.combo);
+    log.clear();
+    s.combo->hide();
+    QCOMPARE(log, QStringList({"editEnd", "lock released"}));
+}
+
+void tst_QKXComboBox::machineWaitsForStartWithoutParent()
+{
+    QKXComboEventFilter filter(nullptr);
+    QSignalSpy ends(&filter, &QKXEventFilterBase::editEnd);
+    QSignalSpy locks(&filter, &QKXEventFilterBase::attemptSetLock);
+    QCoreApplication::processEvents();
+    QVERIFY(!filter.isMachineStarted());
+    emit filter.submit(2);
+    QCOMPARE(ends.count(), 0);
+
+    filter.startMachine();
+    QTRY_COMPARE(locks.count(), 1);
+    emit filter.submit(2);
+    QCOMPARE(ends.count(), 1);
+}
+
+QTEST_MAIN(tst_QKXComboBox)
+#include "tst_QKXComboBox.moc"
