@@ -1,37 +1,18 @@
 #ifndef NUMERICTESTSUPPORT_H
 #define NUMERICTESTSUPPORT_H
 
-// What the tests of numeric entry share: catching the library's debug lines, engine adapters that
-// hand out a current value, and one ordered log of everything a filter emits.
+// What the tests of numeric entry share: engine adapters that hand out a current value, and one
+// ordered log of everything a filter emits.
 
 #include <QtTest>
 
 #include <QLineEdit>
 
+#include "KXTestSupport.h"
+
 #include "QKXNumericEventFilter.h"
 
 namespace kxtest {
-
-// Collects the library's "UserInterface - " lines; everything else goes on to the usual handler.
-class NumericDebugLines
-{
-public:
-    NumericDebugLines() { previous() = qInstallMessageHandler(&NumericDebugLines::handle); lines().clear(); }
-    ~NumericDebugLines() { qInstallMessageHandler(previous()); }
-    static QStringList &lines() { static QStringList all; return all; }
-
-private:
-    static QtMessageHandler &previous() { static QtMessageHandler handler = nullptr; return handler; }
-    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &msg)
-    {
-        if (type == QtDebugMsg && msg.startsWith(QLatin1String("UserInterface - "))) {
-            lines() << msg.trimmed();
-            return;
-        }
-        if (previous())
-            previous()(type, context, msg);
-    }
-};
 
 class IntAdapter : public QObject
 {

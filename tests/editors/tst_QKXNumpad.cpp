@@ -331,7 +331,7 @@ void tst_QKXNumpad::commit()
     screen.entry->setText(text);
     seen.clear();
 
-    kxtest::NumericDebugLines debug;
+    kxtest::DebugLines debug;
     QSignalSpy padEnd(screen.pad, &QKXKeyPadBase::editEnd);
     screen.press(base == 16 ? QStringLiteral("hexEnter") : QStringLiteral("enter"));
 
@@ -389,7 +389,7 @@ void tst_QKXNumpad::unknownDataType()
     Screen screen(QStringLiteral("Bogus"));
     kxtest::logFilter(screen.filter, seen);
     QVERIFY(screen.show());
-    kxtest::NumericDebugLines debug;
+    kxtest::DebugLines debug;
     QVERIFY(screen.tapAndWaitForPad());
 
     QCOMPARE(debug.lines().size(), 1);

@@ -88,7 +88,7 @@ void tst_QKXNumeric::rendering()
     QStringList log;
     connect(&w, QOverload<double>::of(&QKXNumeric::valueChanged), [&log](double v) { log << "double " + QString::number(v, 'g', 12); });
     connect(&w, QOverload<int>::of(&QKXNumeric::valueChanged), [&log](int v) { log << "int " + QString::number(v); });
-    kxtest::NumericDebugLines debug;
+    kxtest::DebugLines debug;
     w.setValue(value);
 
     QCOMPARE(w.findChild<QLineEdit *>()->text(), text);
@@ -133,7 +133,7 @@ void tst_QKXNumeric::precision()
     connect(&w, QOverload<double>::of(&QKXNumeric::valueChanged), [&seen](double v) { seen << "double " + QString::number(v); });
     connect(&w, QOverload<int>::of(&QKXNumeric::valueChanged), [&seen](int v) { seen << "int " + QString::number(v); });
     connect(&w, &QKXNumeric::precisionChanged, [&seen](int p) { seen << "precision " + QString::number(p); });
-    kxtest::NumericDebugLines debug;
+    kxtest::DebugLines debug;
 
     QVERIFY(w.setProperty("Precision", precision));
     QCOMPARE(seen, log);

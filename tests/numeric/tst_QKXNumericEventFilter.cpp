@@ -140,7 +140,7 @@ void tst_QKXNumericEventFilter::typedCommit()
     field.display->setText(text);
     seen.clear();
 
-    kxtest::NumericDebugLines debug;
+    kxtest::DebugLines debug;
     // Keys the display does not take travel on to the widget and its filter.
     QTest::keyClick(field.display, Qt::Key(key));
     QTest::qWait(10);
