@@ -18,6 +18,10 @@ namespace {
 const QString kx_intType = QStringLiteral("Int");
 const QString kx_doubleType = QStringLiteral("Double");
 const QString kx_textType = QStringLiteral("TextString");
+const QString kx_valueDoubleType = QStringLiteral("ValueDouble");
+const QString kx_valueLongType = QStringLiteral("ValueLong");
+// What Enter commits with on a field with units: no unit of its own, so the value is in the base unit.
+const QString kx_neutralUnits = QStringLiteral("0,0,0:0;0:0;0:0;0:0;0:0");
 
 // Pages of the enter column.
 enum { PageEnter = 0, PageHex = 1, PageUnits = 2 };
@@ -36,6 +40,8 @@ public:
     // What Enter commits: the entry read in the pad's base; false when the text is no number.
     bool entryValue(double *value) const;
     void pressKey(const QString &name, QPushButton *key);
+    // Commits a value with the unit of the key that was pressed and selects that unit on the widget.
+    void submitWithUnit(QObject *key, double value, bool integral);
 
     int unitKeyCount = 4;
     int hexWidth = 318;
@@ -59,6 +65,26 @@ bool QKXNumpadPrivate::entryValue(double *value) const
         *value = double(text.toLongLong(&ok, radix));
     }
     return ok;
+}
+
+void QKXNumpadPrivate::submitWithUnit(QObject *key, double value, bool integral)
+{
+    Q_Q(QKXNumpad);
+    const bool enter = key && (key == buttons.value(QStringLiteral("enter")) || key == buttons.value(QStringLiteral("hexEnter")));
+    const QString unit = enter ? kx_neutralUnits : (key ? key->property("UnitString").toString() : QString());
+    if (integral) {
+        emit q->submit(kxnumber::truncated(value), unit);
+    } else {
+        emit q->submit(value, unit);
+    }
+    // Enter names no unit: the widget keeps the one it shows.
+    if (enter || !key || !widget) {
+        return;
+    }
+    const int index = key->property("UnitIndex").toInt();
+    if (index != -1) {
+        widget->setProperty("UnitIndex", index);
+    }
 }
 
 void QKXNumpadPrivate::pressKey(const QString &name, QPushButton *key)
@@ -234,9 +260,27 @@ void QKXNumpad::registerWidget(QObject *filter, QWidget *widget)
     } else if (d->dataType == kx_doubleType) {
         dot->setEnabled(widget->property("Precision").toInt() > 0);
         connect(this, SIGNAL(submit(double)), filter, SIGNAL(submit(double)));
+    } else if (d->dataType == kx_valueDoubleType || d->dataType == kx_valueLongType) {
+        const bool isLong = d->dataType == kx_valueLongType;
+        dot->setEnabled(!isLong && widget->property("Precision").toInt() > 0);
+        QStringList names;
+        QStringList unitStrings;
+        QList<int> indexes;
+        processUnitData(widget, names, unitStrings, indexes);
+        // A plain number (no unit, or one without a name) commits with Enter in its base unit.
+        if (names.isEmpty() || (names.size() == 1 && names.first().isEmpty())) {
+            d->enterStack->setCurrentIndex(PageEnter);
+        } else {
+            updateUnitButtons(names, unitStrings, indexes);
+            d->enterStack->setCurrentIndex(PageUnits);
+        }
+        if (isLong) {
+            connect(this, SIGNAL(submit(int,QString)), filter, SIGNAL(submit(int,QString)));
+        } else {
+            connect(this, SIGNAL(submit(double,QString)), filter, SIGNAL(submit(double,QString)));
+        }
     } else {
-        // The units ("ValueDouble", "ValueLong") and dotted-address ("TextString") forms join here
-        // with their own families.
+        // The dotted-address form ("TextString") joins here with the text family.
         qDebug() << "UserInterface - QKXNumpad attempting to register unknown data type:" << d->dataType
                  << "Widget:" << widget;
     }
@@ -280,7 +324,8 @@ void QKXNumpad::buttonSubmit()
         return;
     }
     const bool isInt = d->dataType == kx_intType;
-    if (isInt || d->dataType == kx_doubleType) {
+    const bool hasUnits = d->dataType == kx_valueDoubleType || d->dataType == kx_valueLongType;
+    if (isInt || d->dataType == kx_doubleType || hasUnits) {
         double value = 0.0;
         if (!d->entryValue(&value)) {
             // The pad commits on every Enter; what cannot be read commits as 0.
@@ -288,17 +333,63 @@ void QKXNumpad::buttonSubmit()
                                << "is not a number in base" << kxnumber::radixOf(d->base) << "- committing 0";
             value = 0.0;
         }
-        if (isInt) {
-            if (!kxnumber::fitsInt(value)) {
-                qDebug().noquote() << "UserInterface - QKXNumpad:" << kx_quoted(d->entry->text())
-                                   << "is beyond the integer range - committing" << kxnumber::truncated(value);
-            }
+        const bool integral = isInt || d->dataType == kx_valueLongType;
+        if (integral && !kxnumber::fitsInt(value)) {
+            qDebug().noquote() << "UserInterface - QKXNumpad:" << kx_quoted(d->entry->text())
+                               << "is beyond the integer range - committing" << kxnumber::truncated(value);
+        }
+        if (hasUnits) {
+            d->submitWithUnit(sender(), value, integral);
+        } else if (isInt) {
             emit submit(kxnumber::truncated(value));
         } else {
             emit submit(value);
         }
     }
     emit done();
+}
+
+void QKXNumpad::processUnitData(QWidget *widget, QStringList &names, QStringList &unitStrings, QList<int> &indexes)
+{
+    const QVariantList list = widget ? widget->property("UnitList").toList() : QVariantList();
+    for (int i = 0; i < list.size(); ++i) {
+        const QVariantList entry = list.at(i).toList();
+        if (entry.size() < 4) {
+            qDebug().noquote() << "UserInterface - QKXNumpad: unit list entry" << i
+                               << "is not [index, name, true, units string] - no key for it";
+            continue;
+        }
+        indexes.append(entry.at(0).toInt());
+        names.append(entry.at(1).toString());
+        unitStrings.append(entry.at(3).toString());
+    }
+}
+
+void QKXNumpad::updateUnitButtons(QStringList names, QStringList unitStrings, QList<int> indexes)
+{
+    Q_D(QKXNumpad);
+    const int shown = qMin(names.size(), d->unitKeyCount);
+    for (int i = 0; i < d->unitKeyCount; ++i) {
+        QPushButton *key = d->unitKeys.value(i);
+        if (!key) {
+            continue;
+        }
+        if (i >= shown) {
+            key->hide();
+            continue;
+        }
+        key->show();
+        key->setProperty("UnitString", unitStrings.value(i));
+        key->setProperty("UnitIndex", indexes.value(i, -1));
+        if (auto *rich = qobject_cast<QKXRichTextPushButton *>(key)) {
+            rich->setText(names.at(i));
+        } else {
+            qDebug().noquote() << "UserInterface - Unit Button type should be QKXRichTextPushButton.";
+        }
+        key->setObjectName(i == shown - 1 ? QStringLiteral("lastUnit") : QStringLiteral("unit"));
+    }
+    // Object names select the keys' looks: the sheet is applied again for the new names to count.
+    setStyleSheet(styleSheet());
 }
 
 void QKXNumpad::setBase(int base)

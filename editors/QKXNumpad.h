@@ -3,6 +3,9 @@
 
 #include "QKXKeyPadBase.h"
 
+#include <QList>
+#include <QStringList>
+
 class QKXNumpadPrivate;
 
 // The numeric pad: edits the display of a numeric field in base 10, 16, 8 or 2 and commits it in the
@@ -39,6 +42,10 @@ protected:
     void createNumpadButtons() override;
     virtual void createHexEnterButtons();
     virtual void createUnitButtons();
+    // One key per unit, at most four: caption, "UnitString" and "UnitIndex" of each; the rest hidden.
+    virtual void updateUnitButtons(QStringList names, QStringList unitStrings, QList<int> indexes);
+    // The widget's "UnitList" as key captions, units strings and indexes, in list order.
+    virtual void processUnitData(QWidget *widget, QStringList &names, QStringList &unitStrings, QList<int> &indexes);
 
 private:
     Q_DISABLE_COPY(QKXNumpad)

@@ -1,0 +1,333 @@
+#include "QKXNumericValueObjEventFilter.h"
+
+#include "KXNumberText_p.h"
+#include "QKXEditStateFilter_p.h"
+
+#include <QDebug>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QVariant>
+#include <QWidget>
+
+namespace {
+const QString kx_valueDoubleType = QStringLiteral("ValueDouble");
+const QString kx_valueLongType = QStringLiteral("ValueLong");
+
+QString kx_quoted(const QString &text)
+{
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+} // namespace
+
+class QKXNumericValueObjEventFilterPrivate : public QKXEditStateFilterPrivate
+{
+public:
+    QKXNumericValueObjEventFilterPrivate(QKXNumericValueObjEventFilter *q, const QString &dataType,
+                                         QObject *unitFilter, QObject *adapter)
+        : QKXEditStateFilterPrivate(q, adapter, QKXEditStateFilter::RequestLockWithAdapter,
+                                    QKXEditStateFilter::StartWithParent)
+        , dataType(dataType)
+        , unitFilter(unitFilter)
+    {
+    }
+
+    // Looks the display and the selector's unit text up among the widget's children.
+    void findParts();
+    QWidget *selector() const;
+    bool parseDisplay(double *number) const;
+    void installUnitFilter(bool install);
+
+    QPointer<QLabel> unitLabel;
+    double savedValue = 0.0;
+    QString dataType;
+    QString unitString;
+    QPointer<QObject> unitFilter;
+
+private:
+    Q_DECLARE_PUBLIC(QKXNumericValueObjEventFilter)
+};
+
+void QKXNumericValueObjEventFilterPrivate::findParts()
+{
+    Q_Q(QKXNumericValueObjEventFilter);
+    QWidget *widget = q->parentWidget();
+    if (!widget) {
+        return;
+    }
+    q->setInnerEditor(widget->findChild<QLineEdit *>());
+    QWidget *unitSelector = selector();
+    unitLabel = unitSelector ? unitSelector->findChild<QLabel *>(QStringLiteral("ComboText")) : nullptr;
+}
+
+QWidget *QKXNumericValueObjEventFilterPrivate::selector() const
+{
+    Q_Q(const QKXNumericValueObjEventFilter);
+    QWidget *widget = q->parentWidget();
+    return widget ? widget->findChild<QWidget *>(QStringLiteral("unit_combobox")) : nullptr;
+}
+
+bool QKXNumericValueObjEventFilterPrivate::parseDisplay(double *number) const
+{
+    Q_Q(const QKXNumericValueObjEventFilter);
+    QLineEdit *display = q->display();
+    if (!display) {
+        return false;
+    }
+    const QString text = display->text();
+    bool ok = false;
+    if (dataType == kx_valueLongType) {
+        *number = text.toInt(&ok, kxnumber::radixOf(q->parent()->property("Base")));
+    } else if (dataType == kx_valueDoubleType) {
+        *number = text.toDouble(&ok);
+        ok = ok && std::isfinite(*number);
+    }
+    return ok;
+}
+
+void QKXNumericValueObjEventFilterPrivate::installUnitFilter(bool install)
+{
+    QWidget *unitSelector = selector();
+    if (!unitSelector || !unitFilter) {
+        return;
+    }
+    // QObject's own installation: the selector's edit filter, if it has one, stays what it is.
+    if (install) {
+        static_cast<QObject *>(unitSelector)->installEventFilter(unitFilter);
+    } else {
+        unitSelector->removeEventFilter(unitFilter);
+    }
+}
+
+QKXNumericValueObjEventFilter::QKXNumericValueObjEventFilter(QObject *parent, const QString &dataType,
+                                                             QObject *unitFilter, QObject *adapter)
+    : QKXEditStateFilter(*new QKXNumericValueObjEventFilterPrivate(this, dataType, unitFilter, adapter), parent)
+{
+    Q_D(QKXNumericValueObjEventFilter);
+    setProperty("DataType", dataType);
+    d->findParts();
+}
+
+QKXNumericValueObjEventFilter::~QKXNumericValueObjEventFilter() = default;
+
+QString QKXNumericValueObjEventFilter::dataType() const
+{
+    Q_D(const QKXNumericValueObjEventFilter);
+    return d->dataType;
+}
+
+double QKXNumericValueObjEventFilter::savedValue() const
+{
+    Q_D(const QKXNumericValueObjEventFilter);
+    return d->savedValue;
+}
+
+QString QKXNumericValueObjEventFilter::unitString() const
+{
+    Q_D(const QKXNumericValueObjEventFilter);
+    return d->unitString;
+}
+
+QLineEdit *QKXNumericValueObjEventFilter::display() const
+{
+    return static_cast<QLineEdit *>(innerEditor());
+}
+
+QLabel *QKXNumericValueObjEventFilter::unitLabel() const
+{
+    Q_D(const QKXNumericValueObjEventFilter);
+    return d->unitLabel;
+}
+
+QObject *QKXNumericValueObjEventFilter::unitFilter() const
+{
+    Q_D(const QKXNumericValueObjEventFilter);
+    return d->unitFilter;
+}
+
+void QKXNumericValueObjEventFilter::setAdapter(QObject *adapter)
+{
+    Q_D(QKXNumericValueObjEventFilter);
+    d->adapter = adapter;
+    if (parentWidget()) {
+        d->findParts();
+        d->unitString = getUnitString();
+    }
+}
+
+void QKXNumericValueObjEventFilter::setUnitFilter(QObject *unitFilter)
+{
+    Q_D(QKXNumericValueObjEventFilter);
+    const bool idle = isMachineStarted() && !isEditing();
+    if (idle) {
+        d->installUnitFilter(false);
+    }
+    d->unitFilter = unitFilter;
+    // A filter handed over between edits takes effect at once, not only after the next edit.
+    if (idle) {
+        d->installUnitFilter(true);
+    }
+}
+
+QString QKXNumericValueObjEventFilter::getUnitString() const
+{
+    Q_D(const QKXNumericValueObjEventFilter);
+    const QObject *widget = parent();
+    if (!widget || !d->unitLabel) {
+        return QString();
+    }
+    // The label shows the unit after display processing; the selector's Text is the unit as listed.
+    const QString shown = d->unitLabel->text();
+    const QWidget *unitSelector = d->selector();
+    const QString listed = unitSelector ? unitSelector->property("Text").toString() : QString();
+    const QVariantList units = widget->property("UnitList").toList();
+    for (const QVariant &entry : units) {
+        const QVariantList fields = entry.toList();
+        if (fields.size() < 4) {
+            continue;
+        }
+        const QString unit = fields.at(1).toString();
+        if (unit == shown || (!listed.isEmpty() && unit == listed)) {
+            return fields.at(3).toString();
+        }
+    }
+    return QString();
+}
+
+void QKXNumericValueObjEventFilter::submitWidgetValue(double value, QString unit)
+{
+    emit submit(value, unit);
+    emit submit(kxnumber::truncated(value), unit);
+}
+
+void QKXNumericValueObjEventFilter::enterVale(double value)
+{
+    emit submit(value, getUnitString());
+}
+
+void QKXNumericValueObjEventFilter::idleStateInit()
+{
+    Q_D(QKXNumericValueObjEventFilter);
+    if (!display() || !d->unitLabel) {
+        d->findParts();
+    }
+    if (d->unitLabel) {
+        d->unitLabel->setEnabled(false);
+    }
+    d->installUnitFilter(true);
+    QKXEditStateFilter::idleStateInit();
+}
+
+void QKXNumericValueObjEventFilter::editStateInit()
+{
+    Q_D(QKXNumericValueObjEventFilter);
+    if (!display() || !d->unitLabel) {
+        d->findParts();
+    }
+    QKXEditStateFilter::editStateInit();
+    if (d->unitLabel) {
+        d->unitLabel->setEnabled(true);
+    }
+    d->installUnitFilter(false);
+    // The first key typed replaces the old value.
+    if (QLineEdit *edit = display()) {
+        edit->selectAll();
+    }
+}
+
+bool QKXNumericValueObjEventFilter::keyEventFilter(QObject *watched, QKeyEvent *event)
+{
+    Q_D(QKXNumericValueObjEventFilter);
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter: {
+        double number = 0.0;
+        if (d->parseDisplay(&number)) {
+            emit submit(number, d->unitString);
+            emit submit(kxnumber::truncated(number), d->unitString);
+            emit editEnd();
+        } else if (d->dataType == kx_valueDoubleType || d->dataType == kx_valueLongType) {
+            qDebug().noquote() << "UserInterface - QKXNumericValueObjEventFilter:"
+                               << kx_quoted(display() ? display()->text() : QString())
+                               << "is not a number for" << d->dataType << "- nothing submitted";
+        }
+        break;
+    }
+    case Qt::Key_Escape:
+        cancel();
+        break;
+    default:
+        break;
+    }
+    return QKXEditStateFilter::keyEventFilter(watched, event);
+}
+
+bool QKXNumericValueObjEventFilter::hideEventFilter(QObject *watched, QEvent *event)
+{
+    Q_UNUSED(event);
+    // The cancel ends the edit itself; an idle field that hides has nothing to end. A field being
+    // destroyed (no longer a field with units by now) has no value left to give back.
+    QLineEdit *edit = display();
+    const bool alive = parent() && parent()->metaObject()->indexOfMethod("baseUnit()") >= 0;
+    if (watched == parent() && alive && edit && edit->isEnabled()) {
+        cancel();
+    }
+    return true;
+}
+
+void QKXNumericValueObjEventFilter::attempLockSendLockSignal(QWidget *widget, bool locked)
+{
+    Q_UNUSED(locked);
+    // An edit only ever asks for the lock; the machine's idle entry gives it back.
+    QKXEditStateFilter::attempLockSendLockSignal(widget, true);
+}
+
+void QKXNumericValueObjEventFilter::rememberValue()
+{
+    Q_D(QKXNumericValueObjEventFilter);
+    d->savedValue = 0.0;
+    d->unitString = getUnitString();
+    bool read = true;
+    if (QObject *source = adapter()) {
+        if (d->dataType == kx_valueLongType) {
+            int value = 0;
+            read = QMetaObject::invokeMethod(source, "get", Q_RETURN_ARG(int, value));
+            if (read) {
+                d->savedValue = value;
+            }
+        } else if (d->dataType == kx_valueDoubleType) {
+            double value = 0.0;
+            read = QMetaObject::invokeMethod(source, "get", Q_RETURN_ARG(double, value));
+            if (read) {
+                d->savedValue = value;
+            }
+        }
+    } else if (QObject *widget = parent()) {
+        // The widget's value() is the engine's number, in the base unit.
+        double value = 0.0;
+        read = QMetaObject::invokeMethod(widget, "value", Q_RETURN_ARG(double, value));
+        if (read) {
+            d->savedValue = value;
+        }
+    }
+    if (!read) {
+        qDebug().noquote() << "UserInterface - QKXNumericValueObjEventFilter: no current value for" << d->dataType
+                           << "- a cancel submits 0";
+    }
+}
+
+void QKXNumericValueObjEventFilter::restoreValue()
+{
+    Q_D(QKXNumericValueObjEventFilter);
+    QString baseUnit;
+    if (QObject *widget = parent()) {
+        QMetaObject::invokeMethod(widget, "baseUnit", Q_RETURN_ARG(QString, baseUnit));
+    }
+    // The saved value is the engine's, so it goes back in the base unit whatever unit is shown.
+    if (d->dataType == kx_valueDoubleType) {
+        emit submit(d->savedValue, baseUnit);
+    } else if (d->dataType == kx_valueLongType) {
+        emit submit(kxnumber::truncated(d->savedValue), baseUnit);
+    }
+}

@@ -1,0 +1,96 @@
+#ifndef QKXNUMERICVALUEOBJ_P_H
+#define QKXNUMERICVALUEOBJ_P_H
+
+//
+//  W A R N I N G
+//  -------------
+// Not part of the library's public API: the discrete value list and the meter reading build on it.
+//
+
+#include "QKXNumericValueObj.h"
+#include "QKXNumeric_p.h"
+
+#include "Units.h"
+
+#include <QHash>
+#include <QList>
+#include <QVariantList>
+
+class QKXComboBox;
+
+class STANDALONEPLUGINS_EXPORT QKXNumericValueObjPrivate : public QKXNumericPrivate
+{
+    Q_OBJECT
+public:
+    explicit QKXNumericValueObjPrivate(QKXNumericValueObj *q);
+    ~QKXNumericValueObjPrivate() override;
+
+    void init() override;
+    void changeSize(const QString &size) override;
+    void updateStyle() override;
+    void setValue(double value) override;
+    void setMetaData(const QVariant &metaData) override;
+
+    using QKXNumericPrivate::setValue;
+    virtual QString unitListString() const;
+    virtual int defaultUnit() const;
+    virtual void setValue(const double &value, const QString &unit);
+    virtual void setValue(const int &value);
+    virtual void setValue(const int &value, const QString &unit);
+    virtual void setUnitListString(const QString &unitList);
+    virtual void setDefaultUnit(int index);
+    virtual QString baseUnit() const;
+    virtual void setBaseUnit(const QString &unit);
+    virtual QString currentUnit() const;
+    virtual QString currentUnitName() const;
+    virtual int unitIndex() const;
+    virtual bool convertsUnits() const;
+    virtual void setConvertsUnits(bool converts);
+    virtual QKXNumericValueObj::Unit_Groups groupUnits() const;
+    virtual void selectGroupUnits(QKXNumericValueObj::Unit_Groups groups);
+    virtual QVariantList unitToEnum(const Norvane::Value::Units &units, int index);
+    virtual void populateList();
+
+    static QString unitSmallStyleTemplate();
+    static QString unitLargeStyleTemplate();
+    static QString unitLockStyleTemplate();
+    static QString unitReadOnlyStyleTemplate();
+
+    static const QString neutralUnitString;
+
+    QKXComboBox *unitSelector;   // child of the widget
+    QString unitList;
+    int defaultUnitIndex;
+    int unitIndexValue;
+    QString baseUnitString;
+    Norvane::Value::Units baseUnits;
+    Norvane::Value::Units currentUnits;
+    QList<Norvane::Value::Units> unitsList;
+    QHash<int, Norvane::Value::Units> unitsByIndex;
+    QString unitSmallStyle;
+    QString unitLargeStyle;
+    QString unitLockStyle;
+    QKXNumericValueObj::Unit_Groups groupMode;
+    bool convertsUnitsValue;
+
+    // The indexes the selector offers now (-1 when the base unit stands alone).
+    QList<int> offeredIndexes;
+    // Set while the widget itself drives the selector, whose every setIndex echoes back.
+    bool drivingSelector;
+
+public Q_SLOTS:
+    virtual void selectUnitIndex(int index);
+
+protected:
+    // Makes the unit the base unit and rebuilds the offered list; false, with a debug line, for a
+    // text that is no units string.
+    bool takeBaseUnit(const QString &unit, const QString &valueText);
+    // The number to show for a value in the base unit.
+    double displayValue(double value) const;
+    void emitValueSignals(double value, double shown);
+
+private:
+    KX_DECLARE_PUBLIC(QKXNumericValueObj)
+};
+
+#endif // QKXNUMERICVALUEOBJ_P_H

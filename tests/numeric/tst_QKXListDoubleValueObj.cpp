@@ -1,0 +1,214 @@
+// The discrete value list: the field's record, and the popup that offers the allowed values under the
+// field, reuses its buttons and submits the tapped value with its units string.
+#define QTEST_QPA_MOUSE_HANDLING
+#include <QtTest>
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QLineEdit>
+
+#include "GlobalImpl.h"
+#include "QKXComboListFrame.h"
+#include "QKXDoubleValueList.h"
+#include "QKXListDoubleValueObj.h"
+#include "QKXNumericValueObjEventFilter.h"
+#include "QKXRichTextPushButton.h"
+
+#include "NumericTestSupport.h"
+#include "UnitsTestSupport.h"
+
+using namespace kxtest;
+
+namespace {
+
+QVariant record(const QString &type, std::initializer_list<QVariant> values)
+{
+    // A one-entry list in braces would otherwise be taken for a copy of that entry.
+    QVariantList data;
+    for (const QVariant &value : values)
+        data.append(value);
+    return QVariantList{type, QVariant(data)};
+}
+
+QVariant entry(double value, const QString &unit)
+{
+    return QVariant(QVariantList{value, unit});
+}
+
+QStringList shownCaptions(QKXDoubleValueList &popup)
+{
+    QStringList captions;
+    for (QAbstractButton *button : popup.buttonGroup()->buttons()) {
+        auto *item = qobject_cast<QKXRichTextPushButton *>(button);
+        if (item && !item->isHidden() && item->parent())
+            captions << item->text() + QLatin1Char('/') + item->objectName();
+    }
+    return captions;
+}
+
+} // namespace
+
+class tst_QKXListDoubleValueObj : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void recordIsStoredQuietly();
+    void tapSubmitsTheValueWithItsUnit();
+    void buttonsAreReusedAndOnlyListsRebuild();
+    void opensUnderTheFieldOrUpward();
+    void badRecords();
+
+private:
+    QScopedPointer<QWidget> window;
+    QKXListDoubleValueObj *field = nullptr;
+    QKXNumericValueObjEventFilter *filter = nullptr;
+    QKXDoubleValueList *popup = nullptr;
+};
+
+void tst_QKXListDoubleValueObj::init()
+{
+    window.reset(new QWidget);
+    window->resize(800, 480);
+    window->setObjectName(QStringLiteral("MainWindow"));
+    GlobalImpl::getInstance()->setDesktop(window.data());
+    field = new QKXListDoubleValueObj(window.data());
+    field->setAttributeName(QStringLiteral("Bandwidth"));
+    field->setGeometry(40, 40, 200, 60);
+    field->setBaseUnit(hertz());
+    field->setUnitListString(frequencyUnits());
+    field->setMetaData(record(QStringLiteral("List"), {entry(1.5, kilohertz()), entry(25, kilohertz())}));
+    filter = new QKXNumericValueObjEventFilter(field, QStringLiteral("ValueDouble"), nullptr, nullptr);
+    field->installEventFilter(filter);
+    popup = new QKXDoubleValueList(window.data());
+    QObject::connect(filter, &QKXEventFilterBase::editStart, popup, &QKXDoubleValueList::registerWidget);
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.data()));
+}
+
+void tst_QKXListDoubleValueObj::cleanup()
+{
+    window.reset();
+}
+
+void tst_QKXListDoubleValueObj::recordIsStoredQuietly()
+{
+    QSignalSpy values(field, QOverload<double>::of(&QKXNumeric::valueChanged));
+    QSignalSpy units(field, QOverload<int>::of(&QKXNumericValueObj::unitChanged));
+    const QVariantList data{entry(1, kilohertz()), entry(3, kilohertz())};
+    field->setMetaData(record(QStringLiteral("Range"), {data.at(0), data.at(1)}));
+    QCOMPARE(field->getParamType(), QStringLiteral("Range"));
+    QCOMPARE(field->metaData().toList(), data);
+    QCOMPARE(values.count(), 0);
+    QCOMPARE(units.count(), 0);
+    QVERIFY(QMetaObject::invokeMethod(field, "getParamType"));
+    QCOMPARE(popup->objectName(), QStringLiteral("listFrame"));
+    QCOMPARE(popup->styleSheet(), QStringLiteral("QFrame#listFrame {\tbackground-color: transparent;}"));
+    QCOMPARE(popup->size(), window->size());
+}
+
+void tst_QKXListDoubleValueObj::tapSubmitsTheValueWithItsUnit()
+{
+    QStringList road;
+    QObject::connect(filter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit),
+                     [&road](double v, const QString &u) { road << QStringLiteral("submit %1 %2").arg(v).arg(u); });
+    QObject::connect(filter, &QKXEventFilterBase::editEnd, [&road] { road << QStringLiteral("editEnd"); });
+
+    QTest::mouseClick(field, Qt::LeftButton, {}, field->findChild<QLineEdit *>()->geometry().center());
+    QVERIFY(QTest::qWaitFor([&] { return popup->isVisible() && filter->isEditing(); }));
+    QCOMPARE(shownCaptions(*popup), QStringList({"1.5 kHz/cbPushButton", "25 kHz/lastPushButton"}));
+    QCOMPARE(popup->listFrame()->width(), field->width() - 2);
+
+    QAbstractButton *second = popup->buttonGroup()->button(1);
+    QTest::mouseClick(second, Qt::LeftButton, {}, second->rect().center());
+    QCOMPARE(road, QStringList({"submit 25 " + kilohertz(), "editEnd"}));
+    QVERIFY(!popup->isVisible());
+    QVERIFY(!popup->filter());
+    QVERIFY(QTest::qWaitFor([&] { return !filter->isEditing(); }));
+
+    // A tap beside the column gives the edit back: the saved value, in the base unit.
+    road.clear();
+    field->setValue(3000.0);
+    filter->lockAcquired(field);
+    QVERIFY(QTest::qWaitFor([&] { return popup->isVisible(); }));
+    QTest::mouseClick(popup, Qt::LeftButton, {}, QPoint(700, 400));
+    QCOMPARE(road, QStringList({"submit 3000 " + hertz(), "editEnd"}));
+    QVERIFY(!popup->isVisible());
+}
+
+void tst_QKXListDoubleValueObj::buttonsAreReusedAndOnlyListsRebuild()
+{
+    field->setMetaData(record(QStringLiteral("List"), {entry(1, kilohertz()), entry(3, kilohertz()),
+                                                       entry(0.0000123456789, hertz())}));
+    popup->registerWidget(filter, field);
+    QCOMPARE(shownCaptions(*popup), QStringList({"1 kHz/cbPushButton", "3 kHz/cbPushButton",
+                                                 "1.23457e-05 Hz/lastPushButton"}));
+    QAbstractButton *first = popup->buttonGroup()->button(0);
+    popup->unregister();
+
+    field->setMetaData(record(QStringLiteral("List"), {entry(100, kilohertz())}));
+    popup->registerWidget(filter, field);
+    QCOMPARE(shownCaptions(*popup), QStringList({"100 kHz/lastPushButton"}));
+    QCOMPARE(popup->buttonGroup()->button(0), first);
+    QVERIFY(popup->buttonGroup()->button(1)->isHidden());
+    QCOMPARE(popup->values(), QList<double>({100.0}));
+    popup->unregister();
+
+    // Another parameter type leaves the column as it was.
+    field->setMetaData(record(QStringLiteral("Range"), {entry(7, hertz()), entry(8, hertz())}));
+    popup->registerWidget(filter, field);
+    QCOMPARE(shownCaptions(*popup), QStringList({"100 kHz/lastPushButton"}));
+    QSignalSpy submits(filter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit));
+    popup->translateButtonId(0);
+    popup->translateButtonId(5);
+    QCOMPARE(submits.count(), 1);
+}
+
+void tst_QKXListDoubleValueObj::opensUnderTheFieldOrUpward()
+{
+    popup->registerWidget(filter, field);
+    const QRect frame = popup->listFrame()->geometry();
+    QCOMPARE(frame.top(), field->geometry().bottom() + 1);
+    QCOMPARE(frame.left(), field->x() + 1);
+    popup->unregister();
+
+    // At the bottom of the screen the column opens upward and ends on the value display's top.
+    field->move(40, 440);
+    popup->registerWidget(filter, field);
+    const QLineEdit *display = field->findChild<QLineEdit *>();
+    const QRect up = popup->listFrame()->geometry();
+    QCOMPARE(up.bottom() + 1, field->y() + field->height() - display->height());
+    QVERIFY(up.bottom() < window->height());
+}
+
+void tst_QKXListDoubleValueObj::badRecords()
+{
+    DebugLines lines;
+    const QVariant before = field->metaData();
+    field->setMetaData(QVariantList{QStringLiteral("List")});
+    field->setMetaData(QStringLiteral("List"));
+    field->setMetaData(QVariantList{QStringLiteral("List"), 5, 6});
+    QCOMPARE(field->metaData(), before);
+    QCOMPARE(field->getParamType(), QStringLiteral("List"));
+    QCOMPARE(lines.lines().size(), 3);
+    QCOMPARE(lines.lines().first(), QStringLiteral("UserInterface - QKXListDoubleValueObj \"Bandwidth\" metadata is "
+                                                   "not [type, [[value, units], ...]] - previous record kept"));
+
+    lines.lines().clear();
+    field->setMetaData(record(QStringLiteral("List"), {entry(1, kilohertz()), QVariant(QVariantList{QStringLiteral("wide"), hertz()}),
+                                                       QVariant(QVariantList{3.0}), entry(5, QStringLiteral("0,3,1:1")),
+                                                       QVariant(7), entry(10, kilohertz())}));
+    popup->registerWidget(filter, field);
+    QCOMPARE(shownCaptions(*popup), QStringList({"1 kHz/cbPushButton", "10 kHz/lastPushButton"}));
+    QCOMPARE(lines.lines().size(), 4);
+    QCOMPARE(lines.lines().first(), QStringLiteral("UserInterface - QKXDoubleValueList: entry 1 of \"Bandwidth\" is not "
+                                                   "[value, units string] - left out"));
+    QSignalSpy submits(filter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit));
+    popup->translateButtonId(1);
+    QCOMPARE(submits.at(0).at(0).toDouble(), 10.0);
+}
+
+QTEST_MAIN(tst_QKXListDoubleValueObj)
+#include "tst_QKXListDoubleValueObj.moc"

@@ -1,0 +1,453 @@
+// The numeric field with units and its edit filter: the offered units, the display converted from the
+// engine's base-unit value, the order of the signals hosts bind to, the looks, and bad unit data.
+#include <QtTest>
+
+#include <QLabel>
+#include <QLineEdit>
+
+#include "CSS.h"
+#include "QKXComboBox.h"
+#include "QKXNumericValueObj.h"
+#include "QKXNumericValueObjEventFilter.h"
+#include "QKXUtil.h"
+
+#include "NumericTestSupport.h"
+#include "UnitsTestSupport.h"
+
+using namespace kxtest;
+
+namespace {
+
+// A frequency field as hosts set one up: base unit hertz, offered in Hz, kHz and MHz, shown in kHz.
+struct FrequencyField
+{
+    FrequencyField()
+    {
+        field.setAttributeName(QStringLiteral("Frequency"));
+        field.setPrecision(1);
+        field.setBaseUnit(hertz());
+        field.setDefaultUnit(1);
+        field.setUnitListString(frequencyUnits());
+        display = field.findChild<QLineEdit *>();
+        selector = field.findChild<QKXComboBox *>(QStringLiteral("unit_combobox"));
+    }
+    QKXNumericValueObj field;
+    QLineEdit *display;
+    QKXComboBox *selector;
+};
+
+// Everything the field emits, in order, one entry per signal.
+void logField(QKXNumericValueObj *field, QStringList &log)
+{
+    QObject::connect(field, QOverload<double>::of(&QKXNumeric::valueChanged),
+                     [&log](double v) { log << QStringLiteral("shown %1").arg(v); });
+    QObject::connect(field, QOverload<int>::of(&QKXNumeric::valueChanged),
+                     [&log](int v) { log << QStringLiteral("shown int %1").arg(v); });
+    QObject::connect(field, &QKXNumericValueObj::displayValueChanged,
+                     [&log](double v) { log << QStringLiteral("display %1").arg(v); });
+    QObject::connect(field, QOverload<double, QString>::of(&QKXNumericValueObj::valueChanged),
+                     [&log](double v, const QString &u) { log << QStringLiteral("value %1 %2").arg(v).arg(u); });
+    QObject::connect(field, QOverload<int, QString>::of(&QKXNumericValueObj::valueChanged),
+                     [&log](int v, const QString &u) { log << QStringLiteral("value int %1 %2").arg(v).arg(u); });
+    QObject::connect(field, QOverload<int>::of(&QKXNumericValueObj::unitChanged),
+                     [&log](int i) { log << QStringLiteral("unit %1").arg(i); });
+    QObject::connect(field, QOverload<QString>::of(&QKXNumericValueObj::unitChanged),
+                     [&log](const QString &u) { log << QStringLiteral("unit %1").arg(u); });
+}
+
+QStringList offeredTexts(const QKXNumericValueObj &field)
+{
+    QStringList texts;
+    for (const QVariant &entry : field.property("UnitList").toList())
+        texts << entry.toList().value(0).toString() + QLatin1Char(' ') + entry.toList().value(1).toString();
+    return texts;
+}
+
+} // namespace
+
+class tst_QKXNumericValueObj : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void offersTheListAndShowsTheDefaultUnit();
+    void setValueConvertsForDisplayInSignalOrder();
+    void selectingAUnitRewritesFromTheStoredValue();
+    void groupModes_data();
+    void groupModes();
+    void newUnitWithTheValueRebuildsTheList();
+    void badUnitData();
+    void looksWithAndWithoutUnit();
+    void filterCommitsInTheSelectedUnit();
+    void filterCancelAndHideGiveBackTheBaseValue();
+    void unitFilterSitsOnTheSelectorOnlyWhileIdle();
+};
+
+void tst_QKXNumericValueObj::offersTheListAndShowsTheDefaultUnit()
+{
+    FrequencyField f;
+    const QVariantList expected{
+        QVariantList{0, QStringLiteral("Hz"), true, hertz()},
+        QVariantList{1, QStringLiteral("kHz"), true, kilohertz()},
+        QVariantList{2, QStringLiteral("MHz"), true, megahertz()},
+    };
+    QCOMPARE(f.field.property("UnitList").toList(), expected);
+    QCOMPARE(f.selector->metaData().toList(), expected);
+    QCOMPARE(f.field.unitIndex(), 1);
+    QCOMPARE(f.field.currentUnitName(), QStringLiteral("kHz"));
+    QCOMPARE(f.field.currentUnit(), kilohertz());
+    QCOMPARE(f.field.property("CurrentUnit").toString(), kilohertz());
+    QVERIFY(!f.selector->isHidden());
+    // The selector is the right half of the field: its own caption is gone, its text centred.
+    QVERIFY(!f.selector->findChild<QLabel *>(QStringLiteral("Label")));
+    QVERIFY(f.selector->labelText().isEmpty());
+    auto *unitText = f.selector->findChild<QLabel *>(QStringLiteral("ComboText"));
+    QVERIFY(unitText && !unitText->isEnabled());
+    QCOMPARE(unitText->alignment(), Qt::AlignCenter);
+}
+
+void tst_QKXNumericValueObj::setValueConvertsForDisplayInSignalOrder()
+{
+    FrequencyField f;
+    QStringList log;
+    logField(&f.field, log);
+    f.field.setValue(1500.0);
+    QCOMPARE(f.display->text(), QStringLiteral("1.5"));
+    QCOMPARE(f.field.value(), 1500.0);
+    QCOMPARE(log, QStringList({"shown 1.5", "shown int 1", "display 1.5", "value 1500 " + hertz(),
+                               "value int 1500 " + hertz()}));
+
+    // The integer form converts with the half-up rounding of the units helper.
+    log.clear();
+    f.field.setUnitIndex(0);
+    log.clear();
+    f.field.setValue(2500);
+    QCOMPARE(f.display->text(), QStringLiteral("2500.0"));
+    QCOMPARE(log, QStringList({"shown 2500", "shown int 2500", "display 2500", "value 2500 " + hertz(),
+                               "value int 2500 " + hertz()}));
+
+    // A precision change shows the stored engine value again, not the shown number re-converted.
+    f.field.setUnitIndex(1);
+    f.field.setValue(1234.5);
+    f.field.setPrecision(3);
+    QCOMPARE(f.display->text(), QStringLiteral("1.234"));
+    QCOMPARE(f.field.value(), 1234.5);
+}
+
+void tst_QKXNumericValueObj::selectingAUnitRewritesFromTheStoredValue()
+{
+    FrequencyField f;
+    f.field.setValue(1234.0);
+    QCOMPARE(f.display->text(), QStringLiteral("1.2"));
+    QStringList log;
+    logField(&f.field, log);
+
+    f.field.setUnitIndex(2);
+    QCOMPARE(f.display->text(), QStringLiteral("0.0"));
+    QCOMPARE(log, QStringList({"unit 2", "unit " + megahertz()}));
+    QCOMPARE(f.field.currentUnitName(), QStringLiteral("MHz"));
+
+    // Re-selecting the unit in force, from the widget or from its selector, does nothing.
+    log.clear();
+    f.field.setUnitIndex(2);
+    f.selector->setIndex(2);
+    QVERIFY(log.isEmpty());
+
+    // The selector drives the field too; a text without "." stays without decimals.
+    f.selector->setIndex(0);
+    QCOMPARE(f.field.unitIndex(), 0);
+    QCOMPARE(f.display->text(), QStringLiteral("1234.0"));
+    f.field.setPrecision(0);
+    f.selector->setIndex(1);
+    QCOMPARE(f.display->text(), QStringLiteral("1"));
+    QCOMPARE(log, QStringList({"unit 0", "unit " + hertz(), "shown 1234", "shown int 1234", "display 1234",
+                                      "value 1234 " + hertz(), "value int 1234 " + hertz(), "unit 1",
+                                      "unit " + kilohertz()}));
+
+    // Without conversion the stored value is shown whatever the unit.
+    f.field.setConvertsUnits(false);
+    f.field.setUnitIndex(2);
+    QCOMPARE(f.display->text(), QStringLiteral("1234"));
+}
+
+void tst_QKXNumericValueObj::groupModes_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<QStringList>("offered");
+    const QString mixed = QStringList{kilohertz(), seconds(), megahertz()}.join('|');
+    QTest::newRow("convertable") << int(QKXNumericValueObj::Convertable) << mixed << QStringList({"0 kHz", "2 MHz"});
+    QTest::newRow("base") << int(QKXNumericValueObj::Base) << mixed << QStringList({"0 kHz", "2 MHz"});
+    QTest::newRow("none") << int(QKXNumericValueObj::None) << mixed << QStringList({"-1 Hz"});
+    QTest::newRow("nothing converts") << int(QKXNumericValueObj::Convertable) << seconds() << QStringList({"-1 Hz"});
+    QTest::newRow("empty list") << int(QKXNumericValueObj::Convertable) << QString() << QStringList({"-1 Hz"});
+}
+
+void tst_QKXNumericValueObj::groupModes()
+{
+    QFETCH(int, mode);
+    QFETCH(QString, list);
+    QFETCH(QStringList, offered);
+    DebugLines lines;
+    QKXNumericValueObj field;
+    field.setBaseUnit(hertz());
+    field.setGroupUnits(QKXNumericValueObj::Unit_Groups(mode));
+    field.setUnitListString(list);
+    QCOMPARE(offeredTexts(field), offered);
+    QCOMPARE(field.unitIndex(), offered.first().section(' ', 0, 0).toInt());
+    QVERIFY2(lines.lines().isEmpty(), qPrintable(lines.lines().join('\n')));
+}
+
+void tst_QKXNumericValueObj::newUnitWithTheValueRebuildsTheList()
+{
+    FrequencyField f;
+    QSignalSpy values(&f.field, QOverload<double, QString>::of(&QKXNumericValueObj::valueChanged));
+    f.field.setValue(5.0, kilohertz());
+    QCOMPARE(f.field.baseUnit(), kilohertz());
+    QCOMPARE(f.field.currentUnit(), kilohertz());
+    QCOMPARE(f.display->text(), QStringLiteral("5.0"));
+    QCOMPARE(values.count(), 1);
+    QCOMPARE(values.at(0).at(1).toString(), kilohertz());
+    // The same unit again changes nothing but the value; MHz still converts from the new base.
+    f.field.setUnitIndex(2);
+    f.field.setValue(2500.0, kilohertz());
+    QCOMPARE(f.display->text(), QStringLiteral("2.5"));
+
+    // The numeric base only unit: the plain numeric look, no selector.
+    QKXNumericValueObj plain;
+    plain.setUnitListString(QString());
+    QCOMPARE(plain.property("UnitList").toList(),
+             QVariantList({QVariantList{-1, QString(), true, neutralUnits()}}));
+    QVERIFY(plain.findChild<QKXComboBox *>()->isHidden());
+}
+
+void tst_QKXNumericValueObj::badUnitData()
+{
+    DebugLines lines;
+    FrequencyField f;
+    f.field.setValue(1500.0);
+
+    // One malformed part or unknown unit empties the list: only the base unit is offered.
+    const QString prefix = QStringLiteral("UserInterface - QKXNumericValueObj \"Frequency\" unit list part ");
+    f.field.setUnitListString(kilohertz() + "|0,3,1:1;0:0");
+    QCOMPARE(offeredTexts(f.field), QStringList({"-1 Hz"}));
+    QCOMPARE(f.display->text(), QStringLiteral("1500.0"));
+    QVERIFY(lines.lines().contains(prefix + "\"0,3,1:1;0:0\" is no units string - only the base unit is offered"));
+    f.field.setUnitListString("0,0,99:1;0:0;0:0;0:0;0:0|" + megahertz());
+    QCOMPARE(offeredTexts(f.field), QStringList({"-1 Hz"}));
+    QCOMPARE(lines.lines().size(), 2);
+
+    // A value in a unit of another dimension: only that unit is offered, its number shown.
+    f.field.setUnitListString(frequencyUnits());
+    lines.lines().clear();
+    f.field.setValue(-30.0, dBm());
+    QCOMPARE(offeredTexts(f.field), QStringList({"-1 dBm"}));
+    QCOMPARE(f.field.currentUnitName(), QStringLiteral("dBm"));
+    QCOMPARE(f.display->text(), QStringLiteral("-30.0"));
+    QCOMPARE(lines.lines(), QStringList({"UserInterface - QKXNumericValueObj \"Frequency\" no unit of its list "
+                                         "converts to \"dBm\" - only the base unit is offered"}));
+
+    // Text that is no units string: reported, the display and the value stay.
+    lines.lines().clear();
+    QSignalSpy values(&f.field, QOverload<double, QString>::of(&QKXNumericValueObj::valueChanged));
+    f.field.setValue(7.0, QStringLiteral("0,0,1:1;0:0"));
+    f.field.setValue(7, QString());
+    QCOMPARE(values.count(), 0);
+    QCOMPARE(f.field.value(), -30.0);
+    QCOMPARE(f.display->text(), QStringLiteral("-30.0"));
+    QCOMPARE(lines.lines().size(), 2);
+    QVERIFY(lines.lines().first().startsWith("UserInterface - QKXNumericValueObj \"Frequency\" got 7 in "));
+
+    // A unit the list does not offer is refused; the selector stays on the unit in use.
+    f.field.setValue(1500.0, hertz());
+    lines.lines().clear();
+    f.field.setUnitIndex(7);
+    f.selector->setIndex(5);
+    QCOMPARE(f.field.unitIndex(), 1);
+    QCOMPARE(f.selector->currentIndex(), 1);
+    QCOMPARE(f.field.currentUnitName(), QStringLiteral("kHz"));
+    QCOMPARE(lines.lines().first(), QStringLiteral("UserInterface - QKXNumericValueObj \"Frequency\" offers no unit 7 - unit kept"));
+}
+
+void tst_QKXNumericValueObj::looksWithAndWithoutUnit()
+{
+    FrequencyField f;
+    const QString lock = QStringLiteral("QLineEdit:disabled {    background-image: url(:/images/lock_num_un.png);"
+                                        "    background-position: top right;    background-repeat: no-repeat;}");
+    const QString readOnly = "QLineEdit:disabled {    border-color: " + CSS::border()
+        + ";}QKXComboBox QLabel#ComboText:disabled {    border-color: " + CSS::border() + ";}";
+    const QString sheet = f.field.styleSheet();
+    QVERIFY(sheet.contains("border: 2px solid #000;    border-right-width: 0px;    border-top-left-radius: 10px;"
+                           "    border-bottom-left-radius: 10px;"));
+    QVERIFY(sheet.contains("QKXComboBox QLabel#ComboText:disabled {    background-color: transparent;"
+                           "    border-color: #fff;    border-left-width: 2px;    color: #fff;}"));
+    QVERIFY(sheet.contains("font-size: 14px;"));
+    f.field.setLocked(true);
+    f.field.setReadOnly(true);
+    QCOMPARE(f.field.styleSheet(), sheet + lock + readOnly);
+    f.field.setLocked(false);
+    f.field.setReadOnly(false);
+    QCOMPARE(f.field.styleSheet(), sheet);
+
+    // The selector is exactly as wide as its unit at the variant's pixel size, plus 22.
+    QFont font = QApplication::font();
+    font.setPixelSize(14);
+    QCOMPARE(f.selector->minimumWidth(), QKXUtil::calculateStringWidth(QFontMetrics(font), "kHz") + 22);
+    QCOMPARE(f.selector->maximumWidth(), f.selector->minimumWidth());
+    f.field.changeSize(QStringLiteral("Max"));
+    font.setPixelSize(20);
+    QCOMPARE(f.selector->maximumWidth(), QKXUtil::calculateStringWidth(QFontMetrics(font), "kHz") + 22);
+    QVERIFY(f.field.styleSheet().contains("font-size: 20px;"));
+    f.field.setUnitIndex(2);
+    QCOMPARE(f.selector->minimumWidth(), QKXUtil::calculateStringWidth(QFontMetrics(font), "MHz") + 22);
+
+    // Without a unit text: the plain numeric sheet and its own lock mark.
+    QKXNumericValueObj plain;
+    plain.setUnitListString(QString());
+    plain.setLocked(true);
+    QVERIFY(plain.styleSheet().startsWith("QLineEdit {    padding: 1px 5px 0px 5px;    margin: 0px;    border: 2px solid #fff;"));
+    QVERIFY(plain.styleSheet().contains("url(:/images/lock_generic.png)"));
+}
+
+void tst_QKXNumericValueObj::filterCommitsInTheSelectedUnit()
+{
+    QStringList log;
+    FrequencyField f;
+    f.field.setValue(1500.0);
+    auto *filter = new QKXNumericValueObjEventFilter(&f.field, QStringLiteral("ValueDouble"), nullptr, nullptr);
+    f.field.installEventFilter(filter);
+    QCOMPARE(filter->property("DataType").toString(), QStringLiteral("ValueDouble"));
+    QVERIFY(QTest::qWaitFor([&] { return filter->isMachineStarted() && !f.display->isEnabled(); }));
+    QObject::connect(filter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit),
+                     [&log](double v, const QString &u) { log << QStringLiteral("double %1 %2").arg(v).arg(u); });
+    QObject::connect(filter, QOverload<int, QString>::of(&QKXNumericValueObjEventFilter::submit),
+                     [&log](int v, const QString &u) { log << QStringLiteral("int %1 %2").arg(v).arg(u); });
+    QObject::connect(filter, &QKXEventFilterBase::editEnd, [&log] { log << QStringLiteral("editEnd"); });
+    QCOMPARE(filter->getUnitString(), kilohertz());
+
+    // Without an adapter a tap starts the edit at once.
+    f.field.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&f.field));
+    QTest::mouseClick(&f.field, Qt::LeftButton, {}, f.display->geometry().center());
+    QVERIFY(QTest::qWaitFor([&] { return filter->isEditing() && f.display->isEnabled(); }));
+    QCOMPARE(filter->savedValue(), 1500.0);
+    QCOMPARE(filter->unitString(), kilohertz());
+    QVERIFY(filter->unitLabel()->isEnabled());
+    QCOMPARE(f.display->selectedText(), QStringLiteral("1.5"));
+
+    f.display->setText(QStringLiteral("2.5"));
+    QTest::keyClick(f.display, Qt::Key_Return);
+    QCOMPARE(log, QStringList({"double 2.5 " + kilohertz(), "int 2 " + kilohertz(), "editEnd"}));
+    QVERIFY(QTest::qWaitFor([&] { return !filter->isEditing() && !filter->unitLabel()->isEnabled(); }));
+
+    // Typed text that is no number keeps the edit open.
+    DebugLines lines;
+    log.clear();
+    filter->lockAcquired(&f.field);
+    QVERIFY(QTest::qWaitFor([&] { return filter->isEditing(); }));
+    f.display->setText(QStringLiteral("2,5k"));
+    QTest::keyClick(f.display, Qt::Key_Enter);
+    QVERIFY(log.isEmpty());
+    QCOMPARE(lines.lines(), QStringList({"UserInterface - QKXNumericValueObjEventFilter: \"2,5k\" is not a number "
+                                         "for ValueDouble - nothing submitted"}));
+
+    // The host's own calls: both forms, or the double form in the unit shown.
+    filter->submitWidgetValue(3.75, megahertz());
+    filter->enterVale(4.5);
+    QCOMPARE(log, QStringList({"double 3.75 " + megahertz(), "int 3 " + megahertz(), "double 4.5 " + kilohertz()}));
+}
+
+void tst_QKXNumericValueObj::filterCancelAndHideGiveBackTheBaseValue()
+{
+    FrequencyField f;
+    f.field.setValue(1500.0);
+    DoubleAdapter adapter(1499.0);
+    IntAdapter longAdapter(-7);
+    auto *filter = new QKXNumericValueObjEventFilter(&f.field, QStringLiteral("ValueDouble"), nullptr, &adapter);
+    f.field.installEventFilter(filter);
+    QSignalSpy doubles(filter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit));
+    QSignalSpy ints(filter, QOverload<int, QString>::of(&QKXNumericValueObjEventFilter::submit));
+    QSignalSpy ends(filter, &QKXEventFilterBase::editEnd);
+    QSignalSpy locks(filter, &QKXEventFilterBase::attemptSetLock);
+    f.field.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&f.field));
+    QVERIFY(QTest::qWaitFor([&] { return locks.count() == 1; }));
+
+    // With an adapter the tap asks for the lock; the grant starts the edit.
+    QTest::mouseClick(&f.field, Qt::LeftButton, {}, f.display->geometry().center());
+    QCOMPARE(locks.count(), 2);
+    QCOMPARE(locks.at(1).at(1).toBool(), true);
+    filter->lockAcquired(&f.field);
+    QVERIFY(QTest::qWaitFor([&] { return filter->isEditing(); }));
+    QTest::keyClick(f.display, Qt::Key_Escape);
+    QCOMPARE(doubles.count(), 1);
+    QCOMPARE(doubles.at(0).at(0).toDouble(), 1499.0);
+    QCOMPARE(doubles.at(0).at(1).toString(), hertz());
+    QCOMPARE(ints.count(), 0);
+    QCOMPARE(ends.count(), 1);
+
+    // Hiding the field mid-edit cancels once; an idle hide is swallowed without an editEnd.
+    filter->lockAcquired(&f.field);
+    QVERIFY(QTest::qWaitFor([&] { return filter->isEditing(); }));
+    f.field.hide();
+    QCOMPARE(doubles.count(), 2);
+    QCOMPARE(ends.count(), 2);
+    QVERIFY(QTest::qWaitFor([&] { return !filter->isEditing(); }));
+    f.field.show();
+    f.field.hide();
+    QCOMPARE(ends.count(), 2);
+
+    // "ValueLong" gives back the integer form only, truncated.
+    auto *longFilter = new QKXNumericValueObjEventFilter(&f.field, QStringLiteral("ValueLong"), nullptr, &longAdapter);
+    QSignalSpy longInts(longFilter, QOverload<int, QString>::of(&QKXNumericValueObjEventFilter::submit));
+    QSignalSpy longDoubles(longFilter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit));
+    QSignalSpy longLocks(longFilter, &QKXEventFilterBase::attemptSetLock);
+    QVERIFY(QTest::qWaitFor([&] { return longLocks.count() == 1; }));
+    longFilter->lockAcquired(&f.field);
+    QVERIFY(QTest::qWaitFor([&] { return longFilter->isEditing(); }));
+    longFilter->cancel();
+    QCOMPARE(longDoubles.count(), 0);
+    QCOMPARE(longInts.count(), 1);
+    QCOMPARE(longInts.at(0).at(0).toInt(), -7);
+    QCOMPARE(longInts.at(0).at(1).toString(), hertz());
+}
+
+void tst_QKXNumericValueObj::unitFilterSitsOnTheSelectorOnlyWhileIdle()
+{
+    // Counts what reaches the host's unit filter and keeps it from the field.
+    class UnitTaps : public QObject
+    {
+    public:
+        int presses = 0;
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            if (event->type() == QEvent::MouseButtonPress)
+                ++presses;
+            return event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease;
+        }
+    } unitTaps;
+
+    FrequencyField f;
+    auto *filter = new QKXNumericValueObjEventFilter(&f.field, QStringLiteral("ValueDouble"), &unitTaps, nullptr);
+    f.field.installEventFilter(filter);
+    QSignalSpy starts(filter, &QKXEventFilterBase::editStart);
+    f.field.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&f.field));
+    QVERIFY(QTest::qWaitFor([&] { return filter->isMachineStarted() && !f.display->isEnabled(); }));
+
+    QTest::mouseClick(f.selector, Qt::LeftButton, {}, f.selector->rect().center());
+    QCOMPARE(unitTaps.presses, 1);
+    QCOMPARE(starts.count(), 0);
+
+    filter->lockAcquired(&f.field);
+    QVERIFY(QTest::qWaitFor([&] { return filter->isEditing(); }));
+    QTest::mousePress(f.selector, Qt::LeftButton, {}, f.selector->rect().center());
+    QCOMPARE(unitTaps.presses, 1);
+    filter->cancel();
+    QVERIFY(QTest::qWaitFor([&] { return !filter->isEditing(); }));
+    QTest::mousePress(f.selector, Qt::LeftButton, {}, f.selector->rect().center());
+    QCOMPARE(unitTaps.presses, 2);
+}
+
+QTEST_MAIN(tst_QKXNumericValueObj)
+#include "tst_QKXNumericValueObj.moc"
