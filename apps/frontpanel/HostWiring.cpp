@@ -5,10 +5,13 @@
 #include "WidgetNaming.h"
 
 #include "QKXBrowseButton.h"
+#include "QKXComboBox.h"
+#include "QKXTableEnum.h"
 #include "QKXConfirmationPushButton.h"
 #include "QKXConfirmationToggleButton.h"
 #include "QKXFlagStatus.h"
 #include "QKXNumeric.h"
+#include "QKXNumericValueObj.h"
 #include "QKXPlaybackControlButton.h"
 #include "QKXProgressBar.h"
 #include "QKXPushButton.h"
@@ -45,7 +48,10 @@ HostWiring::HostWiring(SimulatedEngine *engine, EditLockOwner *lockOwner, QObjec
     addRule<QKXPlaybackControlButton>(&HostWiring::createPlaybackButtonFilter);
     addRule<QKXFlagStatus>(&HostWiring::bindFlagStatus);
     addRule<QKXProgressBar>(&HostWiring::bindProgressBar);
+    addRule<QKXNumericValueObj>(&HostWiring::createNumericValueObjFilter);
     addRule<QKXNumeric>(&HostWiring::createNumericFilter);
+    addRule<QKXComboBox>(&HostWiring::createComboFilter);
+    addRule<QKXTableEnum>(&HostWiring::createTableEnumFilter);
 }
 
 HostWiring::~HostWiring() = default;

@@ -10,10 +10,14 @@
 class EditLockOwner;
 class QKXEventFilterBase;
 class QKXBrowseButton;
+class QKXComboBox;
+class QKXTableEnum;
 class QKXConfirmationPushButton;
 class QKXConfirmationToggleButton;
 class QKXFlagStatus;
 class QKXNumeric;
+class QKXNumericValueObj;
+class QKXDoubleValueList;
 class QKXNumpad;
 class QKXPlaybackControlButton;
 class QKXProgressBar;
@@ -72,6 +76,19 @@ private:
     // The numeric fields (HostWiringNumeric.cpp): an "Int" or "Double" filter after the attribute's
     // type, with the engine's value behind its adapter; an edit opens the numeric pad.
     QKXEventFilterBase *createNumericFilter(QKXNumeric *numeric);
+    // The enumerated widgets (HostWiringEnums.cpp): the engine's record and value, a combo filter whose
+    // edit opens the list popup (the wheel popup for a wheel enum), a table filter that asks for the
+    // lock; every choice goes to the engine, which confirms it through setIndex.
+    QKXEventFilterBase *createComboFilter(QKXComboBox *combo);
+    QKXEventFilterBase *createTableEnumFilter(QKXTableEnum *table);
+    // The fields with units (HostWiringUnits.cpp): a "ValueDouble" filter over the engine's value in its
+    // base unit; a commit in any unit reaches the engine converted to that base unit, and the engine's
+    // answer comes back with the base unit's string. An edit opens the numeric pad with unit keys, or
+    // the discrete value list for an attribute that takes only listed values. A tap on the unit
+    // between edits shows the value in the next unit of the list.
+    QKXEventFilterBase *createNumericValueObjFilter(QKXNumericValueObj *field);
+    // The one discrete value list, made on first use over the registered main window.
+    QKXDoubleValueList *discreteValueList();
     // The one numeric pad, made on the first edit over the registered main window.
     QKXNumpad *numericPad();
     // Shows the engine's value of the widget's attribute now and whenever it changes or is confirmed.
@@ -81,6 +98,7 @@ private:
     EditLockOwner *lockOwner;
     QVector<Rule> rules;
     QPointer<QKXNumpad> numpad;
+    QPointer<QKXDoubleValueList> valueList;
 };
 
 #endif // HOSTWIRING_H

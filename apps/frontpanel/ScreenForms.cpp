@@ -1,8 +1,10 @@
 #include "ScreenForms.h"
 
+#include "ui_ChoicesScreen.h"
 #include "ui_CommandsScreen.h"
 #include "ui_NumericScreen.h"
 #include "ui_SwitchesScreen.h"
+#include "ui_UnitsScreen.h"
 
 #include <QWidget>
 
@@ -25,5 +27,7 @@ QVector<ScreenForm> screenForms()
         screenforms_entry<Ui::CommandsScreen>("commands"),
         screenforms_entry<Ui::SwitchesScreen>("switches"),
         screenforms_entry<Ui::NumericScreen>("numeric"),
+        screenforms_entry<Ui::UnitsScreen>("units"),
+        screenforms_entry<Ui::ChoicesScreen>("choices"),
     };
 }

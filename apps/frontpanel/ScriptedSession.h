@@ -49,6 +49,18 @@ public:
     // engine clamps and the field shows clamped; each rendered while the pad is open beside the field.
     bool playNumericRoad(const QDir &directory, QStringList &images);
 
+    // The choices screen's roads (ScriptedSessionChoices.cpp), through real mouse events: a
+    // modulation picked on the list popup, the long bandwidth list dragged and picked from, a detector
+    // turned to and picked on the wheel popup, and a channel row tapped after scrolling the table;
+    // each popup rendered while open, and each value checked in the engine and in the widget.
+    bool playChoicesRoads(const QDir &directory, QStringList &images);
+
+    // The units screen's roads (ScriptedSessionUnits.cpp): the generator frequency shown in MHz, typed
+    // 2.5 on the numeric pad and committed with its kHz key, stored by the engine as 2500 Hz and shown
+    // as 2.500 kHz; then the resolution bandwidth chosen from its discrete list. Each is rendered with
+    // its popup open and after the engine's answer.
+    bool playUnitsRoads(const QDir &directory, QStringList &images);
+
     QString failure() const;
 
 private:
@@ -64,6 +76,10 @@ private:
                       bool render, int timeoutMs = 2000);
     // Brings the screen holding the widget up and says whether the widget can be tapped there.
     bool showScreenOf(QWidget *widget, const QString &what);
+    // Taps the enumerated widget bound to the attribute, waits for its popup, optionally drags the
+    // popup's column by dragBy, renders the open popup, and taps the item showing the literal.
+    bool chooseOnPopup(const QString &attribute, int dragBy, const QString &literal, int expected,
+                       const QDir &directory, QStringList &images, int timeoutMs = 2000);
     // Runs the event loop until the condition holds or the time is up; returns the condition.
     bool waitFor(const std::function<bool()> &condition, int timeoutMs);
 

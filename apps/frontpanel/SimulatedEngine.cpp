@@ -41,6 +41,8 @@ SimulatedEngine::SimulatedEngine(QObject *parent)
               {QStringLiteral("Squelch"), {-120.0, -60.0}}})
     , sweepTimer(new QTimer(this))
 {
+    addEnumerations();
+    addUnitAttributes();
     sweepTimer->setInterval(150);
     connect(sweepTimer, &QTimer::timeout, this, &SimulatedEngine::stepSweep);
     connect(this, &SimulatedEngine::valueChanged, this, [this](const QString &name, const QVariant &value) {
@@ -135,7 +137,11 @@ void SimulatedEngine::requestValue(const QString &name, const QVariant &value)
         appendLog(QStringLiteral("request %1 rejected: unknown attribute").arg(name));
         return;
     }
-    QVariant accepted = value;
+    if (!acceptsListedValue(name, value)) {
+        emit valueConfirmed(name, values.value(name));
+        return;
+    }
+    QVariant accepted = nearestDiscreteValue(name, value);
     if (limits.contains(name)) {
         bool isNumber = false;
         const double asked = value.toDouble(&isNumber);

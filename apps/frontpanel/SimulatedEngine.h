@@ -40,6 +40,18 @@ public:
     int settleTime(const QString &name) const;
     void setSettleTime(const QString &name, int ms);
 
+    // Enumerated attributes (SimulatedEngineEnums.cpp): the record of [value, literal] entries that the
+    // widgets list, or an invalid variant for an attribute that is not enumerated. A request for a value
+    // the record lacks is turned down, and the value held is confirmed again.
+    bool isEnumerated(const QString &name) const;
+    QVariant metaData(const QString &name) const;
+
+    // Attributes with units (SimulatedEngineUnits.cpp): the engine holds their values in the base unit
+    // its units property string names ("" for an attribute without units). Some take only the values
+    // of a discrete list (empty for the others); a request between two of them gets the nearest.
+    QString unitString(const QString &name) const;
+    QList<double> discreteValues(const QString &name) const;
+
     // The range a numeric attribute accepts. A request outside it is clamped to it (and the log says
     // so); the widgets take their limits from here.
     bool hasLimits(const QString &name) const;
@@ -71,6 +83,10 @@ Q_SIGNALS:
 
 private:
     void applyCommandEffect(const QString &name);
+    void addEnumerations();
+    bool acceptsListedValue(const QString &name, const QVariant &value);
+    void addUnitAttributes();
+    QVariant nearestDiscreteValue(const QString &name, const QVariant &value);
 
     QVariantMap presetValues;
     QVariantMap values;
@@ -80,6 +96,9 @@ private:
     QHash<QString, int> settleTimes;
     QHash<QString, QPair<double, double>> limits;
     QTimer *sweepTimer;
+    QHash<QString, QVariant> records;
+    QHash<QString, QString> unitStrings;
+    QHash<QString, QList<double>> discreteLists;
 };
 
 #endif // SIMULATEDENGINE_H

@@ -71,6 +71,18 @@ static int frontpanel_runHeadless(MainWindow &window, const QString &outputDir, 
         err << "frontpanel: numeric road failed: " << session.failure() << Qt::endl;
         ok = false;
     }
+    if (session.playChoicesRoads(dir, images)) {
+        out << "frontpanel: choices roads complete" << Qt::endl;
+    } else {
+        err << "frontpanel: choices road failed: " << session.failure() << Qt::endl;
+        ok = false;
+    }
+    if (session.playUnitsRoads(dir, images)) {
+        out << "frontpanel: units roads complete" << Qt::endl;
+    } else {
+        err << "frontpanel: units road failed: " << session.failure() << Qt::endl;
+        ok = false;
+    }
     for (const QString &image : qAsConst(images)) {
         out << image << '\n';
     }
