@@ -21,7 +21,7 @@ public:
     // Builds a row of answer keys from "Label,code|Label,code" and reports their number in count.
     // Each key closes the dialog it belongs to (parent, when that is a ContainerDialog) with its code.
     // Malformed pairs are reported on the debug stream and left out.
-    static QBoxLayout *createButtonLayout(QWidget *parent, const QString &spec, long &count);
+    static QBoxLayout *createButtonLayout(QWidget *parent, const QString &buttons, long &count);
 
     // Shows the dialog. Modal: runs until it closes and returns the chosen code (Cancelled when
     // cancelled). Not modal: returns Cancelled at once; the answer arrives through finished().
