@@ -2,7 +2,8 @@
 #define BUTTONTESTSUPPORT_H
 
 // What the tests of the buttons/ folder share: catching the library's debug lines, a translator
-// for one word, splitting style sheets into rules, and answering modal prompts while they run.
+// for one word, splitting style sheets into rules, logging a filter's lock traffic, and answering
+// modal prompts while they run.
 
 #include <QtTest>
 
@@ -13,6 +14,9 @@
 #include <QTranslator>
 
 #include "ContainerDialog.h"
+#include "GlobalImpl.h"
+#include "QKXEventFilterBase.h"
+#include "SystemModule.h"
 
 namespace kxtest {
 
@@ -40,66 +44,47 @@ private:
     }
 };
 
+// Translates the given source words, whatever their context.
 class WordTranslator : public QTranslator
 {
 public:
-    WordTranslator(const char *from, const char *to) : from(from), to(QString::fromUtf8(to)) {}
+    WordTranslator(const char *from, const char *to) : WordTranslator({{from, to}}) {}
+    WordTranslator(std::initializer_list<std::pair<const char *, const char *>> pairs)
+    {
+        for (const auto &pair : pairs)
+            words.insert(QByteArray(pair.first), QString::fromUtf8(pair.second));
+    }
     bool isEmpty() const override { return false; }
     QString translate(const char *, const char *sourceText, const char *, int) const override
     {
-        return qstrcmp(sourceText, from) == 0 ? to : QString();
+        return words.value(QByteArray(sourceText));
     }
 
 private:
-    QByteArray from;
-    QString to;
+    QHash<QByteArray, QString> words;
 };
 
-struct Rule
+// "selector { p: v; p: v }" per rule, white space in values collapsed, rules and declarations in
+// their order. Colons and semicolons inside values do not split here: none of the sheets under test
+// puts a semicolon inside a value.
+inline QStringList describeSheet(const QString &sheet)
 {
-    QString selector;
-    QStringList properties;
-    QStringList values;   // white space collapsed
-    QString declarations() const
-    {
-        QStringList all;
-        for (int i = 0; i < properties.size(); ++i)
-            all << properties.at(i) + QStringLiteral(": ") + values.at(i);
-        return all.join(QStringLiteral("; "));
-    }
-};
-
-// Splits a style sheet into its rules, keeping the order of rules and of declarations.
-inline QVector<Rule> parseSheet(const QString &sheet)
-{
-    QVector<Rule> rules;
+    QStringList out;
     QRegularExpressionMatchIterator it =
         QRegularExpression(QStringLiteral("([^{}]+)\\{([^{}]*)\\}")).globalMatch(sheet);
     while (it.hasNext()) {
         const QRegularExpressionMatch m = it.next();
-        Rule rule;
-        rule.selector = m.captured(1).simplified();
-        // Colons and semicolons inside url(...) or gradients do not split declarations here: none
-        // of the sheets under test puts a semicolon inside a value.
-        const QStringList declarations = m.captured(2).split(QLatin1Char(';'));
-        for (const QString &declaration : declarations) {
+        QStringList declarations;
+        for (const QString &declaration : m.captured(2).split(QLatin1Char(';'))) {
             if (declaration.trimmed().isEmpty())
                 continue;
             const int colon = declaration.indexOf(QLatin1Char(':'));
-            rule.properties << declaration.left(colon).trimmed();
-            rule.values << declaration.mid(colon + 1).simplified();
+            declarations << declaration.left(colon).trimmed() + QStringLiteral(": ")
+                                + declaration.mid(colon + 1).simplified();
         }
-        rules << rule;
+        out << m.captured(1).simplified() + QStringLiteral(" { ") + declarations.join(QStringLiteral("; "))
+                   + QStringLiteral(" }");
     }
-    return rules;
-}
-
-// "selector { p: v; p: v }" per rule, one string per rule, for comparing sheets declaration by declaration.
-inline QStringList describeSheet(const QString &sheet)
-{
-    QStringList out;
-    for (const Rule &rule : parseSheet(sheet))
-        out << rule.selector + QStringLiteral(" { ") + rule.declarations() + QStringLiteral(" }");
     return out;
 }
 
@@ -107,6 +92,43 @@ inline QStringList describeSheet(const QString &sheet)
 inline QColor colourAt(QWidget *widget, const QPoint &at)
 {
     return widget->grab().toImage().pixelColor(at);
+}
+
+inline bool exposed(QWidget &window)
+{
+    window.show();
+    return QTest::qWaitForWindowExposed(&window);
+}
+
+// Logs a filter's lock traffic as "request" / "release" ("foreign lock" when about another widget);
+// while grant is set, the host grants every request at once.
+inline void watchLock(QKXEventFilterBase *filter, QWidget *own, QStringList &log, const bool &grant)
+{
+    QObject::connect(filter, &QKXEventFilterBase::attemptSetLock, [filter, own, &log, &grant](QWidget *w, bool locked) {
+        log << (w != own ? QStringLiteral("foreign lock") : locked ? QStringLiteral("request") : QStringLiteral("release"));
+        if (locked && grant)
+            filter->lockAcquired(w);
+    });
+}
+static const bool Grant = true;
+static const bool Refuse = false;
+
+// "clicked" and "buttonPressed <name>" of any push button of the library, in one log.
+template<class Button>
+void watchClicks(Button *button, QStringList &log)
+{
+    QObject::connect(button, &Button::clicked, [&log] { log << QStringLiteral("clicked"); });
+    QObject::connect(button, &Button::buttonPressed,
+                     [&log](const QString &name) { log << QStringLiteral("buttonPressed ") + name; });
+}
+
+// A press that travels further than a tap before it is let go.
+inline void drag(QWidget *key)
+{
+    const QPoint start(20, key->height() / 2);
+    QTest::mousePress(key, Qt::LeftButton, Qt::NoModifier, start);
+    QTest::mouseMove(key, start + QPoint(31, 0));
+    QTest::mouseRelease(key, Qt::LeftButton, Qt::NoModifier, start + QPoint(31, 0));
 }
 
 // Answers the next modal prompt while its exec() runs: what it showed is written to the log as
@@ -142,10 +164,9 @@ public:
     static ContainerDialog *openDialog()
     {
         for (QWidget *w : QApplication::allWidgets()) {
-            if (auto *dialog = qobject_cast<ContainerDialog *>(w)) {
-                if (dialog->QWidget::isVisible())
-                    return dialog;
-            }
+            auto *dialog = qobject_cast<ContainerDialog *>(w);
+            if (dialog && dialog->QWidget::isVisible())
+                return dialog;
         }
         return nullptr;
     }
@@ -160,8 +181,12 @@ private:
         seen = dialog;
         seenParent = dialog->parentWidget();
         QStringList keys;
-        for (QPushButton *key : dialog->findChildren<QPushButton *>(QStringLiteral("DialogButton")))
+        QPushButton *target = nullptr;
+        for (QPushButton *key : dialog->findChildren<QPushButton *>(QStringLiteral("DialogButton"))) {
             keys << key->text();
+            if (key->text() == answer)
+                target = key;
+        }
         seenText = dialog->findChild<QLabel *>(QStringLiteral("dialog_text"));
         textAlignment = seenText ? seenText->alignment() : Qt::Alignment();
         textWraps = seenText && seenText->wordWrap();
@@ -174,14 +199,8 @@ private:
             action(dialog);
             return;
         }
-        QPushButton *target = nullptr;
-        if (answer == QLatin1String("<close key>")) {
+        if (answer == QLatin1String("<close key>"))
             target = closeKey;
-        } else {
-            for (QPushButton *key : dialog->findChildren<QPushButton *>(QStringLiteral("DialogButton")))
-                if (key->text() == answer)
-                    target = key;
-        }
         if (!target || !target->isVisible()) {
             log << QStringLiteral("no key ") + answer;
             dialog->cancelDialog();
@@ -194,6 +213,53 @@ private:
     QTimer timer;
     QString answer;
     std::function<void(ContainerDialog *)> action;
+};
+
+// The host's top container: prompts close when it announces that the window closes.
+class TopContainer : public QWidget
+{
+    Q_OBJECT
+public:
+    using QWidget::QWidget;
+Q_SIGNALS:
+    void WindowClosed();
+};
+
+// A main window (registered with the host unless told otherwise) holding the top container prompts
+// hang on, and a log that the prompt answerer writes to as well.
+struct PromptScreen
+{
+    explicit PromptScreen(bool registerMain = true, const QString &topName = QStringLiteral("TopContainerObject"))
+        : answerer(log)
+    {
+        main.resize(480, 320);
+        if (registerMain)
+            GlobalImpl::getInstance()->systemModule()->registerSystemScreen(QStringLiteral("MainWindow"), &main);
+        top = new TopContainer(&main);
+        top->setObjectName(topName);
+        top->setGeometry(0, 0, 480, 320);
+    }
+    ~PromptScreen()
+    {
+        answerer.stop();
+        GlobalImpl::getInstance()->systemModule()->unregisterSystemScreen(QStringLiteral("MainWindow"));
+    }
+
+    // Taps the key with the answerer standing by; "<window closed>" closes the window instead of answering.
+    void tapAndAnswer(QWidget *key, const QString &answer)
+    {
+        if (answer == QLatin1String("<window closed>"))
+            answerer.answerWith(answer, [this](ContainerDialog *) { emit top->WindowClosed(); });
+        else
+            answerer.answerWith(answer);
+        QTest::mouseClick(key, Qt::LeftButton);
+        answerer.stop();
+    }
+
+    QWidget main;
+    TopContainer *top;
+    QStringList log;
+    PromptAnswerer answerer;
 };
 
 } // namespace kxtest

@@ -52,7 +52,6 @@ struct Stage
                     filters[i]->lockAcquired(w);
             });
         }
-        screen.show();
     }
     ~Stage() { screens()->unregisterSystemScreen(QStringLiteral("SimpleFileBrowser")); }
 
@@ -72,7 +71,7 @@ class tst_QKXBrowseButton : public QObject
     Q_OBJECT
 
 private slots:
-    void filename();
+    void filenameAnnounced();
     void browserRoads_data();
     void browserRoads();
     void latestButtonTakesOver();
@@ -81,21 +80,14 @@ private slots:
     void browserGoneWhileListening();
 };
 
-void tst_QKXBrowseButton::filename()
+void tst_QKXBrowseButton::filenameAnnounced()
 {
+    // Announced again even without a change.
     QKXBrowseButton b;
     QSignalSpy changed(&b, &QKXBrowseButton::filenameChanged);
-    QCOMPARE(b.filename(), QString());
-    QVERIFY(QMetaObject::invokeMethod(&b, "setFilename", Q_ARG(QString, QStringLiteral("/data/setup.cfg"))));
     b.setFilename(QStringLiteral("/data/setup.cfg"));
-    QCOMPARE(changed.count(), 2);
-    QCOMPARE(changed.at(1).at(0).toString(), QStringLiteral("/data/setup.cfg"));
-    QString name;
-    QVERIFY(QMetaObject::invokeMethod(&b, "filename", Q_RETURN_ARG(QString, name)));
-    QCOMPARE(name, QStringLiteral("/data/setup.cfg"));
-    // Still a push button: the caption is the button's text.
-    QVERIFY(b.setProperty("LabelText", QStringLiteral("Load")));
-    QCOMPARE(b.findChild<QPushButton *>()->text(), QStringLiteral("Load"));
+    b.setFilename(QStringLiteral("/data/setup.cfg"));
+    QCOMPARE(QList<QVariantList>(changed), (QList<QVariantList>{{"/data/setup.cfg"}, {"/data/setup.cfg"}}));
 }
 
 void tst_QKXBrowseButton::browserRoads_data()
@@ -115,7 +107,7 @@ void tst_QKXBrowseButton::browserRoads()
     QFETCH(QStringList, expected);
 
     Stage s;
-    QVERIFY(QTest::qWaitForWindowExposed(&s.screen));
+    QVERIFY(exposed(s.screen));
     s.tap(0);
     // The lock is handed back at once: the browser is the host's to show.
     QCOMPARE(s.log, (QStringList{"button 1 request", "button 1 release"}));
@@ -140,7 +132,7 @@ void tst_QKXBrowseButton::browserRoads()
 void tst_QKXBrowseButton::latestButtonTakesOver()
 {
     Stage s;
-    QVERIFY(QTest::qWaitForWindowExposed(&s.screen));
+    QVERIFY(exposed(s.screen));
     // Whoever listened to the browser before a granted tap stops listening, whoever it was.
     QStringList earlier;
     QObject::connect(&s.browser, &Browser::fileSelected, [&earlier](const QString &f) { earlier << f; });
@@ -185,7 +177,7 @@ void tst_QKXBrowseButton::withoutBrowser()
         screens()->registerSystemScreen(QStringLiteral("SimpleFileBrowser"), &plain);
     else
         screens()->unregisterSystemScreen(QStringLiteral("SimpleFileBrowser"));
-    QVERIFY(QTest::qWaitForWindowExposed(&s.screen));
+    QVERIFY(exposed(s.screen));
     s.tap(0);
     // The lock still goes back.
     QCOMPARE(s.log, (QStringList{"button 1 request", "button 1 release"}));
@@ -195,7 +187,7 @@ void tst_QKXBrowseButton::withoutBrowser()
 void tst_QKXBrowseButton::browserGoneWhileListening()
 {
     Stage s;
-    QVERIFY(QTest::qWaitForWindowExposed(&s.screen));
+    QVERIFY(exposed(s.screen));
     auto *replaced = new Browser;
     screens()->registerSystemScreen(QStringLiteral("SimpleFileBrowser"), replaced);
     s.tap(0);

@@ -5,42 +5,25 @@
 #include <QPushButton>
 
 #include "ButtonTestSupport.h"
-#include "GlobalImpl.h"
 #include "QKXConfirmationPushButton.h"
 #include "QKXConfirmationPushButtonEventFilter.h"
 #include "QKXPushButton.h"
-#include "SystemModule.h"
 
 using namespace kxtest;
 
 namespace {
 
-// The host's top container: prompts close when it announces that the window closes.
-class TopContainer : public QWidget
-{
-    Q_OBJECT
-public:
-    using QWidget::QWidget;
-Q_SIGNALS:
-    void WindowClosed();
-};
-
 const QStringList Click{"clicked", "buttonPressed PushButton"};
 const QStringList Command{"request", "submit", "release"};
+const int Untouched = -99;   // a style the test leaves as the button starts
 
 // A confirmation button under the top container of a main window, with the host's filter and a host
 // that grants every lock request at once. Everything lands in one ordered log.
-struct Stage
+struct Stage : PromptScreen
 {
     explicit Stage(bool registerMain = true, const QString &topName = QStringLiteral("TopContainerObject"))
-        : answerer(log)
+        : PromptScreen(registerMain, topName)
     {
-        main.resize(480, 320);
-        if (registerMain)
-            GlobalImpl::getInstance()->systemModule()->registerSystemScreen(QStringLiteral("MainWindow"), &main);
-        top = new TopContainer(&main);
-        top->setObjectName(topName);
-        top->setGeometry(0, 0, 480, 320);
         button = new QKXConfirmationPushButton(top);
         button->setGeometry(20, 20, 200, 60);
         button->setTitleText(QStringLiteral("Preset"));
@@ -48,33 +31,15 @@ struct Stage
         filter = new QKXConfirmationPushButtonEventFilter(button);
         button->installEventFilter(filter);
         inner = button->findChild<QPushButton *>(QStringLiteral("PushButton"));
-
-        QObject::connect(button, &QKXPushButton::clicked, [this] { log << QStringLiteral("clicked"); });
-        QObject::connect(button, &QKXPushButton::buttonPressed,
-                         [this](const QString &name) { log << QStringLiteral("buttonPressed ") + name; });
+        watchClicks(button, log);
         QObject::connect(filter, &QKXConfirmationPushButtonEventFilter::submit, [this] { log << QStringLiteral("submit"); });
         QObject::connect(filter, &QKXEventFilterBase::showGuiLockedMessage, [this] { log << QStringLiteral("gui locked"); });
-        QObject::connect(filter, &QKXEventFilterBase::attemptSetLock, [this](QWidget *w, bool locked) {
-            log << (w != button ? QStringLiteral("foreign lock") : locked ? QStringLiteral("request")
-                                                                          : QStringLiteral("release"));
-            if (locked)
-                filter->lockAcquired(w);
-        });
-        main.show();
-    }
-    ~Stage()
-    {
-        answerer.stop();
-        GlobalImpl::getInstance()->systemModule()->unregisterSystemScreen(QStringLiteral("MainWindow"));
+        watchLock(filter, button, log, Grant);
     }
 
-    QWidget main;
-    TopContainer *top;
     QKXConfirmationPushButton *button;
     QKXConfirmationPushButtonEventFilter *filter;
     QPushButton *inner;
-    QStringList log;
-    PromptAnswerer answerer;
 };
 
 QString prompt(const QString &keys)
@@ -89,34 +54,15 @@ class tst_QKXConfirmationPushButton : public QObject
     Q_OBJECT
 
 private slots:
-    void properties();
     void promptRoads_data();
     void promptRoads();
-    void guiLockedShowsNoPrompt();
-    void dragShowsNoPrompt();
+    void noPrompt_data();
+    void noPrompt();
     void degradedPrompts_data();
     void degradedPrompts();
     void filterOnPlainButton();
     void buttonGoneWhilePromptOpen();
 };
-
-void tst_QKXConfirmationPushButton::properties()
-{
-    QKXConfirmationPushButton b;
-    QCOMPARE(b.property("ButtonStyle").toInt(), 1);
-    QCOMPARE(b.property("PromptStyle").toInt(), 1);
-    QVERIFY(b.setProperty("ButtonStyle", 3));
-    QVERIFY(b.setProperty("DialogText", QStringLiteral("Erase?")));
-    int buttonStyle = 0;
-    QString text;
-    QVERIFY(QMetaObject::invokeMethod(&b, "buttonStyle", Q_RETURN_ARG(int, buttonStyle)));
-    QVERIFY(QMetaObject::invokeMethod(&b, "dialogText", Q_RETURN_ARG(QString, text)));
-    QCOMPARE(buttonStyle, 3);
-    QCOMPARE(text, QStringLiteral("Erase?"));
-    // A value of the wrong type is refused and the old one kept.
-    QVERIFY(!b.setProperty("ButtonStyle", QStringLiteral("Yes/No")));
-    QCOMPARE(b.buttonStyle(), 3);
-}
 
 void tst_QKXConfirmationPushButton::promptRoads_data()
 {
@@ -125,8 +71,9 @@ void tst_QKXConfirmationPushButton::promptRoads_data()
     QTest::addColumn<QString>("answer");
     QTest::addColumn<QStringList>("expected");
 
-    QTest::newRow("new button, Yes") << 1 << 1 << "Yes" << QStringList{prompt("No/Yes")} + Command + Click;
-    QTest::newRow("new button, No") << 1 << 1 << "No" << QStringList{prompt("No/Yes")} + Click;
+    // A new button asks No/Yes on every tap.
+    QTest::newRow("new button, Yes") << Untouched << Untouched << "Yes" << QStringList{prompt("No/Yes")} + Command + Click;
+    QTest::newRow("new button, No") << Untouched << Untouched << "No" << QStringList{prompt("No/Yes")} + Click;
     QTest::newRow("Cancel/OK, OK") << 0 << 1 << "OK" << QStringList{prompt("Cancel/OK")} + Command + Click;
     QTest::newRow("Cancel/OK, Cancel") << 0 << 1 << "Cancel" << QStringList{prompt("Cancel/OK")} + Click;
     QTest::newRow("notice never confirms") << 2 << 1 << "OK" << QStringList{prompt("OK")} + Click;
@@ -145,16 +92,12 @@ void tst_QKXConfirmationPushButton::promptRoads()
     QFETCH(QStringList, expected);
 
     Stage s;
-    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
-    s.button->setButtonStyle(buttonStyle);
-    s.button->setPromptStyle(promptStyle);
-    if (answer == QLatin1String("<window closed>"))
-        s.answerer.answerWith(answer, [&s](ContainerDialog *) { emit s.top->WindowClosed(); });
-    else
-        s.answerer.answerWith(answer);
-
-    QTest::mouseClick(s.inner, Qt::LeftButton);
-    s.answerer.stop();
+    QVERIFY(exposed(s.main));
+    if (buttonStyle != Untouched)
+        s.button->setButtonStyle(buttonStyle);
+    if (promptStyle != Untouched)
+        s.button->setPromptStyle(promptStyle);
+    s.tapAndAnswer(s.inner, answer);
     QCOMPARE(s.log, expected);
 
     if (s.answerer.seenText) {
@@ -169,32 +112,32 @@ void tst_QKXConfirmationPushButton::promptRoads()
     QVERIFY(!s.inner->isDown());
 }
 
-void tst_QKXConfirmationPushButton::guiLockedShowsNoPrompt()
+void tst_QKXConfirmationPushButton::noPrompt_data()
 {
-    Stage s;
-    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
-    s.answerer.answerWith(QStringLiteral("Yes"));
-    qApp->setProperty("guilocked", true);
-    QTest::mouseClick(s.inner, Qt::LeftButton);
-    qApp->setProperty("guilocked", QVariant());
-    s.answerer.stop();
-    // The release is swallowed: no click, and the button does not stay held down.
-    QCOMPARE(s.log, QStringList{"gui locked"});
-    QVERIFY(!s.inner->isDown());
+    QTest::addColumn<bool>("guiLocked");
+    QTest::newRow("gui locked") << true;
+    QTest::newRow("drag") << false;
 }
 
-void tst_QKXConfirmationPushButton::dragShowsNoPrompt()
+void tst_QKXConfirmationPushButton::noPrompt()
 {
+    QFETCH(bool, guiLocked);
     Stage s;
-    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
+    QVERIFY(exposed(s.main));
     s.answerer.answerWith(QStringLiteral("Yes"));
-    const QPoint start(20, s.inner->height() / 2);
-    QTest::mousePress(s.inner, Qt::LeftButton, Qt::NoModifier, start);
-    QTest::mouseMove(s.inner, start + QPoint(31, 0));
-    QTest::mouseRelease(s.inner, Qt::LeftButton, Qt::NoModifier, start + QPoint(31, 0));
+    if (guiLocked) {
+        qApp->setProperty("guilocked", true);
+        QTest::mouseClick(s.inner, Qt::LeftButton);
+        qApp->setProperty("guilocked", QVariant());
+    } else {
+        drag(s.inner);
+    }
     s.answerer.stop();
-    QCOMPARE(s.log.filter(QStringLiteral("prompt")), QStringList());
-    QCOMPARE(s.log.filter(QStringLiteral("request")), QStringList());
+    QCOMPARE(s.log.filter(QStringLiteral("prompt")) + s.log.filter(QStringLiteral("request")), QStringList());
+    // A locked GUI swallows the release: no click, and the button does not stay held down.
+    if (guiLocked)
+        QCOMPARE(s.log, QStringList{"gui locked"});
+    QVERIFY(!s.inner->isDown());
 }
 
 void tst_QKXConfirmationPushButton::degradedPrompts_data()
@@ -232,11 +175,9 @@ void tst_QKXConfirmationPushButton::degradedPrompts()
 
     DebugLines debug;
     Stage s(registerMain, topName);
-    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
+    QVERIFY(exposed(s.main));
     s.button->setButtonStyle(buttonStyle);
-    s.answerer.answerWith(answer);
-    QTest::mouseClick(s.inner, Qt::LeftButton);
-    s.answerer.stop();
+    s.tapAndAnswer(s.inner, answer);
     QCOMPARE(s.log, expected);
     QCOMPARE(s.answerer.closeKeyShown, buttonStyle == 4);
     QCOMPARE(s.answerer.seenParent, registerMain ? &s.main : nullptr);
@@ -253,15 +194,10 @@ void tst_QKXConfirmationPushButton::filterOnPlainButton()
     plain->show();
     auto *filter = new QKXConfirmationPushButtonEventFilter(plain);
     plain->installEventFilter(filter);
-    QStringList log;
-    QObject::connect(filter, &QKXEventFilterBase::attemptSetLock,
-                     [&log](QWidget *, bool locked) { log << (locked ? "request" : "release"); });
-    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
-    PromptAnswerer answerer(log);
-    answerer.answerWith(QStringLiteral("Yes"));
-    QTest::mouseClick(plain->findChild<QPushButton *>(), Qt::LeftButton);
-    answerer.stop();
-    QCOMPARE(log, (QStringList{"prompt ||No/Yes", "request"}));
+    watchLock(filter, plain, s.log, Refuse);
+    QVERIFY(exposed(s.main));
+    s.tapAndAnswer(plain->findChild<QPushButton *>(), QStringLiteral("Yes"));
+    QCOMPARE(s.log, (QStringList{"prompt ||No/Yes", "request"}));
     QCOMPARE(DebugLines::lines(),
              (QStringList{"UserInterface - QKXConfirmationPushButtonEventFilter::mouseReleaseEventFilter : "
                           "QKXPushButton has no PromptStyle; prompting as PromptStyle 1.",
@@ -272,7 +208,7 @@ void tst_QKXConfirmationPushButton::filterOnPlainButton()
 void tst_QKXConfirmationPushButton::buttonGoneWhilePromptOpen()
 {
     Stage s;
-    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
+    QVERIFY(exposed(s.main));
     QPointer<QKXConfirmationPushButton> button(s.button);
     // The screen drops the button while the question is open, then the window closes.
     s.answerer.answerWith(QString(), [&s](ContainerDialog *) {

@@ -6,37 +6,19 @@
 #include <QPushButton>
 
 #include "ButtonTestSupport.h"
-#include "GlobalImpl.h"
 #include "QKXConfirmationToggleButton.h"
 #include "QKXConfirmationToggleButtonEventFilter.h"
-#include "SystemModule.h"
 
 using namespace kxtest;
 
 namespace {
 
-// The host's top container: prompts close when it announces that the window closes.
-class TopContainer : public QWidget
-{
-    Q_OBJECT
-public:
-    using QWidget::QWidget;
-Q_SIGNALS:
-    void WindowClosed();
-};
-
 // A confirmation toggle under the top container of the registered main window, with the host's
 // filter and a host that grants every lock request at once.
-struct Stage
+struct Stage : PromptScreen
 {
     Stage()
-        : answerer(log)
     {
-        main.resize(480, 320);
-        GlobalImpl::getInstance()->systemModule()->registerSystemScreen(QStringLiteral("MainWindow"), &main);
-        top = new TopContainer(&main);
-        top->setObjectName(QStringLiteral("TopContainerObject"));
-        top->setGeometry(0, 0, 480, 320);
         toggle = new QKXConfirmationToggleButton(top);
         toggle->setGeometry(20, 20, 200, 60);
         toggle->setTitleText(QStringLiteral("RF"));
@@ -45,33 +27,17 @@ struct Stage
         toggle->installEventFilter(filter);
         inner = toggle->findChild<QPushButton *>();
         state = inner->findChild<QLabel *>();
-
         QObject::connect(filter, &QKXConfirmationToggleButtonEventFilter::submit, [this](bool v) {
             log << QStringLiteral("submit %1 while %2").arg(v).arg(state->objectName());
         });
         QObject::connect(filter, &QKXEventFilterBase::showGuiLockedMessage, [this] { log << QStringLiteral("gui locked"); });
-        QObject::connect(filter, &QKXEventFilterBase::attemptSetLock, [this](QWidget *w, bool locked) {
-            log << (w != toggle ? QStringLiteral("foreign lock") : locked ? QStringLiteral("request")
-                                                                          : QStringLiteral("release"));
-            if (locked)
-                filter->lockAcquired(w);
-        });
-        main.show();
-    }
-    ~Stage()
-    {
-        answerer.stop();
-        GlobalImpl::getInstance()->systemModule()->unregisterSystemScreen(QStringLiteral("MainWindow"));
+        watchLock(filter, toggle, log, Grant);
     }
 
-    QWidget main;
-    TopContainer *top;
     QKXConfirmationToggleButton *toggle;
     QKXConfirmationToggleButtonEventFilter *filter;
     QPushButton *inner;
     QLabel *state;
-    QStringList log;
-    PromptAnswerer answerer;
 };
 
 const QString Prompt = QStringLiteral("prompt RF|Switch the RF output?|No/Yes");
@@ -88,25 +54,11 @@ class tst_QKXConfirmationToggleButton : public QObject
     Q_OBJECT
 
 private slots:
-    void properties();
     void promptRoads_data();
     void promptRoads();
-    void lockedShowsNoPrompt();
-    void guiLockedShowsNoPrompt();
+    void noPrompt_data();
+    void noPrompt();
 };
-
-void tst_QKXConfirmationToggleButton::properties()
-{
-    QKXConfirmationToggleButton t;
-    QCOMPARE(t.property("ButtonStyle").toInt(), 1);
-    QCOMPARE(t.property("PromptStyle").toInt(), 1);
-    QVERIFY(t.setProperty("TitleText", QStringLiteral("Averaging")));
-    QString title;
-    QVERIFY(QMetaObject::invokeMethod(&t, "titleText", Q_RETURN_ARG(QString, title)));
-    QCOMPARE(title, QStringLiteral("Averaging"));
-    QVERIFY(!t.setProperty("PromptStyle", QStringLiteral("always")));
-    QCOMPARE(t.promptStyle(), 1);
-}
 
 void tst_QKXConfirmationToggleButton::promptRoads_data()
 {
@@ -144,16 +96,10 @@ void tst_QKXConfirmationToggleButton::promptRoads()
 
     DebugLines lines;
     Stage s;
-    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
+    QVERIFY(exposed(s.main));
     s.toggle->setPromptStyle(promptStyle);
     s.toggle->setActiveState(startOn);
-    if (answer == QLatin1String("<window closed>"))
-        s.answerer.answerWith(answer, [&s](ContainerDialog *) { emit s.top->WindowClosed(); });
-    else
-        s.answerer.answerWith(answer);
-
-    QTest::mouseClick(s.inner, Qt::LeftButton);
-    s.answerer.stop();
+    s.tapAndAnswer(s.inner, answer);
     QCOMPARE(s.log, expected);
     QCOMPARE(DebugLines::lines(), debug);
     // Whatever the answer, the state only changes when the engine says so.
@@ -164,32 +110,30 @@ void tst_QKXConfirmationToggleButton::promptRoads()
     QVERIFY(!PromptAnswerer::openDialog());
 }
 
-void tst_QKXConfirmationToggleButton::lockedShowsNoPrompt()
+void tst_QKXConfirmationToggleButton::noPrompt_data()
 {
-    Stage s;
-    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
-    s.toggle->setPromptStyle(3);
-    s.toggle->setLocked(true);
-    s.answerer.answerWith(QStringLiteral("Yes"));
-    QTest::mouseClick(s.inner, Qt::LeftButton);
-    s.answerer.stop();
-    QCOMPARE(s.log, QStringList());
-    QCOMPARE(s.state->text(), QStringLiteral("Locked-On"));
+    QTest::addColumn<bool>("guiLocked");
+    QTest::addColumn<QStringList>("expected");
+    QTest::addColumn<QString>("look");
+    QTest::newRow("locked") << false << QStringList() << "Locked Locked-On";
+    QTest::newRow("gui locked") << true << QStringList{"gui locked"} << "On On";
 }
 
-void tst_QKXConfirmationToggleButton::guiLockedShowsNoPrompt()
+void tst_QKXConfirmationToggleButton::noPrompt()
 {
+    QFETCH(bool, guiLocked);
+    QFETCH(QStringList, expected);
+    QFETCH(QString, look);
     Stage s;
-    QVERIFY(QTest::qWaitForWindowExposed(&s.main));
+    QVERIFY(exposed(s.main));
     s.toggle->setPromptStyle(3);
-    s.answerer.answerWith(QStringLiteral("Yes"));
-    qApp->setProperty("guilocked", true);
-    QTest::mouseClick(s.inner, Qt::LeftButton);
+    s.toggle->setLocked(!guiLocked);
+    qApp->setProperty("guilocked", guiLocked ? QVariant(true) : QVariant());
+    s.tapAndAnswer(s.inner, QStringLiteral("Yes"));
     qApp->setProperty("guilocked", QVariant());
-    s.answerer.stop();
-    QCOMPARE(s.log, QStringList{"gui locked"});
+    QCOMPARE(s.log, expected);
     QVERIFY(!s.inner->isDown());
-    QCOMPARE(s.state->objectName(), QStringLiteral("On"));
+    QCOMPARE(s.state->objectName() + QLatin1Char(' ') + s.state->text(), look);
 }
 
 QTEST_MAIN(tst_QKXConfirmationToggleButton)

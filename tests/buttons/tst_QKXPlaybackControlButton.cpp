@@ -43,10 +43,6 @@ private slots:
 void tst_QKXPlaybackControlButton::baseSheet()
 {
     QKXPlaybackControlButton b;
-    QCOMPARE(b.buttonType(), QKXPlaybackControlButton::none);
-    QCOMPARE(b.minimumSize(), QSize(40, 40));
-    QCOMPARE(b.sizeHint(), QSize(44, 44));
-    QCOMPARE(b.sizePolicy().verticalPolicy(), QSizePolicy::Maximum);
     const QString gradient = QStringLiteral("qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 %1, stop:0.8 %2, stop:1 %3)")
                                  .arg(CSS::gradientDark(), CSS::gradientMiddle(), CSS::gradientLight())
                                  .simplified();
@@ -132,8 +128,7 @@ void tst_QKXPlaybackControlButton::symbolsArePainted()
     row->addWidget(play);
     row->addWidget(stop);
     row->addStretch(1);
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&screen));
+    QVERIFY(exposed(screen));
 
     const QImage plain = face(none);
     const QImage triangle = face(play);
@@ -159,29 +154,16 @@ void tst_QKXPlaybackControlButton::clicksIgnoreTheLock()
     b->move(10, 10);
     auto *filter = new QKXPushButtonEventFilter(b);
     b->installEventFilter(filter);
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&screen));
+    QVERIFY(exposed(screen));
 
     QStringList log;
-    QObject::connect(b, &QKXPlaybackControlButton::clicked, [&log] { log << QStringLiteral("clicked"); });
-    QObject::connect(b, &QKXPlaybackControlButton::buttonPressed,
-                     [&log](const QString &name) { log << QStringLiteral("buttonPressed ") + name; });
-    QObject::connect(filter, &QKXEventFilterBase::attemptSetLock,
-                     [&log](QWidget *, bool locked) { log << (locked ? "request" : "release"); });
-
-    auto *inner = b->findChild<QPushButton *>();
+    watchClicks(b, log);
+    watchLock(filter, b, log, Refuse);
     const QString sheet = b->styleSheet();
-    QVERIFY(b->setProperty("Locked", true));
+    b->setLocked(true);
     QCOMPARE(b->styleSheet(), sheet);   // no locked look
-    QTest::mouseClick(inner, Qt::LeftButton);
+    QTest::mouseClick(b->findChild<QPushButton *>(), Qt::LeftButton);
     QCOMPARE(log, (QStringList{"request", "clicked", "buttonPressed PushButton"}));
-
-    log.clear();
-    QVERIFY(QMetaObject::invokeMethod(b, "setButtonName", Q_ARG(QString, QStringLiteral("StopRecording"))));
-    QTest::mouseClick(inner, Qt::LeftButton);
-    QCOMPARE(log, (QStringList{"request", "clicked", "buttonPressed StopRecording"}));
-    b->setButtonObjectName(QStringLiteral("PlayRecording"));
-    QCOMPARE(inner->objectName(), QStringLiteral("PlayRecording"));
 }
 
 QTEST_MAIN(tst_QKXPlaybackControlButton)

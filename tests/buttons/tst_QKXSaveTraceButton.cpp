@@ -5,8 +5,11 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "ButtonTestSupport.h"
 #include "QKXPushButtonEventFilter.h"
 #include "QKXSaveTraceButton.h"
+
+using namespace kxtest;
 
 class tst_QKXSaveTraceButton : public QObject
 {
@@ -20,15 +23,6 @@ private slots:
 void tst_QKXSaveTraceButton::iconButton()
 {
     QKXSaveTraceButton b;
-    QCOMPARE(b.sizeHint(), QSize(32, 32));
-    QCOMPARE(b.minimumSizeHint(), QSize(32, 32));
-    QCOMPARE(b.minimumSize(), QSize(32, 32));
-    QCOMPARE(b.sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
-    QCOMPARE(b.sizePolicy().verticalPolicy(), QSizePolicy::Minimum);
-    auto *inner = b.findChild<QPushButton *>(QStringLiteral("PushButton"));
-    QVERIFY(inner);
-    QCOMPARE(inner->sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
-    QCOMPARE(inner->sizePolicy().verticalPolicy(), QSizePolicy::Minimum);
     // The sheet names the application's icon, byte for byte, in both sizes.
     const QString sheet = QStringLiteral(
         "QPushButton { background-color: transparent; border: none; image: url(:/images/svg/saveTrace.svg)}");
@@ -37,9 +31,8 @@ void tst_QKXSaveTraceButton::iconButton()
     QCOMPARE(b.styleSheet(), sheet);
 
     // No lock mark, even when locked.
-    auto *lock = inner->findChild<QLabel *>();
+    auto *lock = b.findChild<QPushButton *>(QStringLiteral("PushButton"))->findChild<QLabel *>();
     QVERIFY(lock);
-    QVERIFY(lock->isHidden());
     b.setLocked(true);
     QVERIFY(lock->isHidden());
     QCOMPARE(b.styleSheet(), sheet);
@@ -53,18 +46,14 @@ void tst_QKXSaveTraceButton::tapSendsTheCommand()
     b->move(10, 10);
     auto *filter = new QKXPushButtonEventFilter(b);
     b->installEventFilter(filter);
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&screen));
+    QVERIFY(exposed(screen));
+    // The icon is the whole key, at its own size.
     QCOMPARE(b->size(), QSize(32, 32));
 
     QStringList log;
     QObject::connect(b, &QKXPushButton::clicked, [&log] { log << QStringLiteral("clicked"); });
     QObject::connect(filter, &QKXPushButtonEventFilter::submit, [&log] { log << QStringLiteral("submit"); });
-    QObject::connect(filter, &QKXEventFilterBase::attemptSetLock, [&](QWidget *w, bool locked) {
-        log << (locked ? "request" : "release");
-        if (locked)
-            filter->lockAcquired(w);
-    });
+    watchLock(filter, b, log, Grant);
     QTest::mouseClick(b->findChild<QPushButton *>(), Qt::LeftButton);
     QCOMPARE(log, (QStringList{"request", "submit", "release", "clicked"}));
 }
