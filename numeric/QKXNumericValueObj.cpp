@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScopedValueRollback>
+#include <QStyle>
 
 using Norvane::Value::Units;
 
@@ -143,9 +144,23 @@ void QKXNumericValueObjPrivate::init()
 
 void QKXNumericValueObjPrivate::changeSize(const QString &size)
 {
+    const QString sheetBefore = q->styleSheet();
     QKXNumericPrivate::changeSize(size);
     if (!unitSelector) {
         return;
+    }
+    if (q->styleSheet() != sheetBefore) {
+        // The unit text takes its look from this widget's sheet, through a selector that once had a
+        // sheet of its own. Qt keeps the rules it read for the selector's labels while this widget
+        // has not been shown yet (a screen not on top), so the new sheet is read again, here and for
+        // the parts, or the unit keeps the look of the size before.
+        QWidget *const parts[] = {q, unitSelector, unitSelector->findChild<QLabel *>(QStringLiteral("ComboText"))};
+        for (QWidget *part : parts) {
+            if (part) {
+                q->style()->unpolish(part);
+                q->style()->polish(part);
+            }
+        }
     }
     int pixelSize = 14;
     if (currentSizeName == QLatin1String("Max")) {
