@@ -127,6 +127,16 @@ QKXEventFilterBase *HostWiring::createPushButtonFilter(QKXPushButton *button)
     return filter;
 }
 
+static bool isPartOfAnotherWidget(const QWidget *widget, const QWidget *screen)
+{
+    for (const QWidget *up = widget->parentWidget(); up && up != screen; up = up->parentWidget()) {
+        if (qobject_cast<const QKXWidgetBase *>(up)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 void HostWiring::applySizeVariant(QWidget *screen)
 {
     if (!screen) {
@@ -134,6 +144,11 @@ void HostWiring::applySizeVariant(QWidget *screen)
     }
     const QList<QKXWidgetBase *> widgets = screen->findChildren<QKXWidgetBase *>();
     for (QKXWidgetBase *widget : widgets) {
+        // A widget made of other widgets (a unit selector inside a numeric field) sizes its parts
+        // itself; asking a part directly would give it back a sheet of its own over its owner's.
+        if (isPartOfAnotherWidget(widget, screen)) {
+            continue;
+        }
         // A request for the sheet already in force is ignored without reading the display mode, so
         // after a mode change a widget showing "Max" must pass through "Min" to look again.
         widget->changeSize(QStringLiteral("Min"));
