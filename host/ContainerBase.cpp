@@ -189,18 +189,22 @@ bool ContainerBase::isVisible() const
 
 void ContainerBase::showEvent(QShowEvent *event)
 {
+    Q_D(ContainerBase);
     QWidget::showEvent(event);
     // Spontaneous shows and hides come from the window system (minimise, restore) and are not openings
     // or closings of the popup; counting them would unbalance the listeners' pairs.
-    if (!event->spontaneous()) {
+    if (!event->spontaneous() && !d->announcedOpen) {
+        d->announcedOpen = true;
         emit WindowOpened();
     }
 }
 
 void ContainerBase::hideEvent(QHideEvent *event)
 {
+    Q_D(ContainerBase);
     QWidget::hideEvent(event);
-    if (!event->spontaneous()) {
+    if (!event->spontaneous() && d->announcedOpen) {
+        d->announcedOpen = false;
         emit WindowClosed();
     }
 }

@@ -35,6 +35,9 @@ public:
     QPushButton *closeKey = nullptr;
     QFrame *content = nullptr;
     bool border = true;
+    // Whether listeners were last told of an opening: a hide that reaches the popup twice (its screen
+    // hidden while a prompt cancels itself) still closes it once.
+    bool announcedOpen = false;
 };
 
 #endif // CONTAINERBASE_P_H
