@@ -11,10 +11,6 @@ public:
 
     void init() override;
     void updateStyle() override;
-    QVariant metaData() const override;
-    int currentIndex() const override;
-    QString text() const override;
-    void setText(const QString &text) override;
     void setIndex(const int &value) override;
     void setMetaData(const QVariant &record) override;
     void retranslate() override;
@@ -85,33 +81,6 @@ void QKXWheelEnumPrivate::init()
 void QKXWheelEnumPrivate::updateStyle()
 {
     setOverlaidStyles(minStyle, maxStyle, lockedOverlay, readOnlyOverlay);
-}
-
-QVariant QKXWheelEnumPrivate::metaData() const
-{
-    return metaDataValue;
-}
-
-int QKXWheelEnumPrivate::currentIndex() const
-{
-    return currentIndexValue;
-}
-
-QString QKXWheelEnumPrivate::text() const
-{
-    return textValue;
-}
-
-void QKXWheelEnumPrivate::setText(const QString &literal)
-{
-    const auto found = valueByLiteral.constFind(literal);
-    if (found == valueByLiteral.constEnd()) {
-        return;
-    }
-    textValue = literal;
-    retranslate();
-    currentIndexValue = found.value();
-    emitCurrentIndexChanged();
 }
 
 void QKXWheelEnumPrivate::setIndex(const int &value)
