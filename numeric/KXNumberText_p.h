@@ -8,6 +8,8 @@
 // and the numeric editors.
 //
 
+#include <QMetaObject>
+#include <QObject>
 #include <QString>
 #include <QVariant>
 
@@ -47,6 +49,37 @@ inline int radixOf(const QVariant &base)
     bool ok = false;
     const int radix = base.toInt(&ok);
     return ok && (radix == 16 || radix == 8 || radix == 2) ? radix : 10;
+}
+
+enum class StartValueType { Integer, Double, Other };
+
+// The value an edit starts from, kept for a cancel to put back: the adapter's get() as int or as
+// double after the filter's data type (nothing for another type), or, without an adapter, the
+// widget's value(). False when a value was due but could not be read; *value is 0 then.
+inline bool readStartValue(QObject *adapter, QObject *widget, StartValueType type, double *value)
+{
+    *value = 0.0;
+    if (adapter) {
+        if (type == StartValueType::Integer) {
+            int read = 0;
+            if (!QMetaObject::invokeMethod(adapter, "get", Q_RETURN_ARG(int, read)))
+                return false;
+            *value = read;
+        } else if (type == StartValueType::Double) {
+            double read = 0.0;
+            if (!QMetaObject::invokeMethod(adapter, "get", Q_RETURN_ARG(double, read)))
+                return false;
+            *value = read;
+        }
+        return true;
+    }
+    if (widget) {
+        double read = 0.0;
+        if (!QMetaObject::invokeMethod(widget, "value", Q_RETURN_ARG(double, read)))
+            return false;
+        *value = read;
+    }
+    return true;
 }
 
 } // namespace kxnumber

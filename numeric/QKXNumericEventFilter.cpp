@@ -172,30 +172,11 @@ void QKXNumericEventFilter::attempLockSendLockSignal(QWidget *widget, bool locke
 void QKXNumericEventFilter::rememberValue()
 {
     Q_D(QKXNumericEventFilter);
-    d->savedValue = 0.0;
-    bool read = true;
-    if (QObject *source = adapter()) {
-        if (d->dataType == kx_intType) {
-            int value = 0;
-            read = QMetaObject::invokeMethod(source, "get", Q_RETURN_ARG(int, value));
-            if (read) {
-                d->savedValue = value;
-            }
-        } else if (d->dataType == kx_doubleType) {
-            double value = 0.0;
-            read = QMetaObject::invokeMethod(source, "get", Q_RETURN_ARG(double, value));
-            if (read) {
-                d->savedValue = value;
-            }
-        }
-    } else if (QObject *widget = parent()) {
-        double value = 0.0;
-        read = QMetaObject::invokeMethod(widget, "value", Q_RETURN_ARG(double, value));
-        if (read) {
-            d->savedValue = value;
-        }
-    }
-    if (!read) {
+    using kxnumber::StartValueType;
+    const StartValueType type = d->dataType == kx_intType      ? StartValueType::Integer
+                                : d->dataType == kx_doubleType ? StartValueType::Double
+                                                               : StartValueType::Other;
+    if (!kxnumber::readStartValue(adapter(), parent(), type, &d->savedValue)) {
         qDebug().noquote() << "UserInterface - QKXNumericEventFilter: no current value for" << d->dataType
                            << "- a cancel submits 0";
     }

@@ -286,32 +286,13 @@ void QKXNumericValueObjEventFilter::attempLockSendLockSignal(QWidget *widget, bo
 void QKXNumericValueObjEventFilter::rememberValue()
 {
     Q_D(QKXNumericValueObjEventFilter);
-    d->savedValue = 0.0;
     d->unitString = getUnitString();
-    bool read = true;
-    if (QObject *source = adapter()) {
-        if (d->dataType == kx_valueLongType) {
-            int value = 0;
-            read = QMetaObject::invokeMethod(source, "get", Q_RETURN_ARG(int, value));
-            if (read) {
-                d->savedValue = value;
-            }
-        } else if (d->dataType == kx_valueDoubleType) {
-            double value = 0.0;
-            read = QMetaObject::invokeMethod(source, "get", Q_RETURN_ARG(double, value));
-            if (read) {
-                d->savedValue = value;
-            }
-        }
-    } else if (QObject *widget = parent()) {
-        // The widget's value() is the engine's number, in the base unit.
-        double value = 0.0;
-        read = QMetaObject::invokeMethod(widget, "value", Q_RETURN_ARG(double, value));
-        if (read) {
-            d->savedValue = value;
-        }
-    }
-    if (!read) {
+    using kxnumber::StartValueType;
+    const StartValueType type = d->dataType == kx_valueLongType      ? StartValueType::Integer
+                                : d->dataType == kx_valueDoubleType ? StartValueType::Double
+                                                               : StartValueType::Other;
+    // Without an adapter the widget's value() is the engine's number, in the base unit.
+    if (!kxnumber::readStartValue(adapter(), parent(), type, &d->savedValue)) {
         qDebug().noquote() << "UserInterface - QKXNumericValueObjEventFilter: no current value for" << d->dataType
                            << "- a cancel submits 0";
     }
