@@ -1,9 +1,8 @@
 #ifndef BUTTONTESTSUPPORT_H
 #define BUTTONTESTSUPPORT_H
 
-// What the tests of the buttons/ folder share: catching the library's debug lines, a translator
-// for one word, splitting style sheets into rules, logging a filter's lock traffic, and answering
-// modal prompts while they run.
+// What the tests of the buttons/ folder share besides KXTestSupport.h: splitting style sheets into
+// rules, logging a filter's lock traffic, and answering modal prompts while they run.
 
 #include <QtTest>
 
@@ -11,58 +10,14 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QTranslator>
 
 #include "ContainerDialog.h"
+#include "KXTestSupport.h"
 #include "GlobalImpl.h"
 #include "QKXEventFilterBase.h"
 #include "SystemModule.h"
 
 namespace kxtest {
-
-// Collects the library's debug lines; everything else goes on to the usual handler.
-class DebugLines
-{
-public:
-    DebugLines() { previous() = qInstallMessageHandler(&DebugLines::handle); lines().clear(); }
-    ~DebugLines() { qInstallMessageHandler(previous()); }
-    static QStringList &lines() { static QStringList all; return all; }
-
-private:
-    static QtMessageHandler &previous() { static QtMessageHandler handler = nullptr; return handler; }
-    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &msg)
-    {
-        if (type == QtDebugMsg && msg.startsWith(QLatin1String("UserInterface - "))) {
-            QString line = msg;
-            while (line.endsWith(QLatin1Char(' ')))   // a trailing blank is the stream's business
-                line.chop(1);
-            lines() << line;
-            return;
-        }
-        if (previous())
-            previous()(type, context, msg);
-    }
-};
-
-// Translates the given source words, whatever their context.
-class WordTranslator : public QTranslator
-{
-public:
-    WordTranslator(const char *from, const char *to) : WordTranslator({{from, to}}) {}
-    WordTranslator(std::initializer_list<std::pair<const char *, const char *>> pairs)
-    {
-        for (const auto &pair : pairs)
-            words.insert(QByteArray(pair.first), QString::fromUtf8(pair.second));
-    }
-    bool isEmpty() const override { return false; }
-    QString translate(const char *, const char *sourceText, const char *, int) const override
-    {
-        return words.value(QByteArray(sourceText));
-    }
-
-private:
-    QHash<QByteArray, QString> words;
-};
 
 // "selector { p: v; p: v }" per rule, white space in values collapsed, rules and declarations in
 // their order. Colons and semicolons inside values do not split here: none of the sheets under test
@@ -132,9 +87,8 @@ inline void drag(QWidget *key)
 }
 
 // Answers the next modal prompt while its exec() runs: what it showed is written to the log as
-// "prompt <title>|<text>|<answer keys>", then the named answer key is pressed with real mouse events.
-// The answer "<close key>" presses the title bar's close key; any function given instead runs in
-// place of an answer.
+// "prompt <title>|<text>|<answer keys>", then the named answer key is pressed with real mouse events
+// ("<close key>": the title bar's close key). A function given instead runs in place of an answer.
 class PromptAnswerer
 {
 public:
@@ -180,31 +134,26 @@ private:
         timer.stop();
         seen = dialog;
         seenParent = dialog->parentWidget();
-        QStringList keys;
-        QPushButton *target = nullptr;
-        for (QPushButton *key : dialog->findChildren<QPushButton *>(QStringLiteral("DialogButton"))) {
-            keys << key->text();
-            if (key->text() == answer)
-                target = key;
-        }
         seenText = dialog->findChild<QLabel *>(QStringLiteral("dialog_text"));
         textAlignment = seenText ? seenText->alignment() : Qt::Alignment();
         textWraps = seenText && seenText->wordWrap();
         QPushButton *closeKey = dialog->findChild<QPushButton *>(QStringLiteral("ContainerClose"));
         closeKeyShown = closeKey && closeKey->isVisible();
+        QPushButton *target = answer == QLatin1String("<close key>") ? closeKey : nullptr;
+        QStringList keys;
+        for (QPushButton *key : dialog->findChildren<QPushButton *>(QStringLiteral("DialogButton"))) {
+            keys << key->text();
+            if (key->text() == answer)
+                target = key;
+        }
         log << QStringLiteral("prompt %1|%2|%3")
                    .arg(dialog->windowTitle(), seenText ? seenText->text() : QStringLiteral("<no text>"),
                         keys.join(QLatin1Char('/')));
-        if (action) {
-            action(dialog);
-            return;
-        }
-        if (answer == QLatin1String("<close key>"))
-            target = closeKey;
+        if (action)
+            return action(dialog);
         if (!target || !target->isVisible()) {
             log << QStringLiteral("no key ") + answer;
-            dialog->cancelDialog();
-            return;
+            return dialog->cancelDialog();
         }
         QTest::mouseClick(target, Qt::LeftButton);
     }

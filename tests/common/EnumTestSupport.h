@@ -1,70 +1,22 @@
 #ifndef ENUMTESTSUPPORT_H
 #define ENUMTESTSUPPORT_H
 
-// What the tests of the enumerated widgets and their popups share: catching the library's debug
-// lines, a translator for single words, records built from pairs, and a stand-in host that answers
-// lock requests, opens popups and carries submitted values back the way the front panel does, writing
-// everything into one ordered log.
+// What the tests of the enumerated widgets and their popups share: records built from pairs, a screen
+// with a widget and its popup, and a stand-in host that answers lock requests, opens popups and carries
+// submitted values back the way the front panel does, writing everything into one ordered log.
 
-#include <QtTest>
+#include "KXTestSupport.h"
 
 #include <QApplication>
 #include <QLabel>
-#include <QTranslator>
 
 #include "QKXComboBox.h"
 #include "QKXComboBoxList.h"
+#include "QKXComboEventFilter.h"
+#include "QKXComboListItem.h"
 #include "QKXEventFilterBase.h"
 
 namespace kxtest {
-
-// Collects debug lines that start with one of the prefixes; everything else goes to the usual handler.
-class DebugLines
-{
-public:
-    explicit DebugLines(QStringList prefixes = {QStringLiteral("UserInterface - ")})
-    {
-        active() = std::move(prefixes);
-        lines().clear();
-        previous() = qInstallMessageHandler(&DebugLines::handle);
-    }
-    ~DebugLines() { qInstallMessageHandler(previous()); }
-    static QStringList &lines() { static QStringList all; return all; }
-    QStringList take() { QStringList out = lines(); lines().clear(); return out; }
-
-private:
-    static QStringList &active() { static QStringList prefixes; return prefixes; }
-    static QtMessageHandler &previous() { static QtMessageHandler handler = nullptr; return handler; }
-    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &msg)
-    {
-        if (type == QtDebugMsg) {
-            for (const QString &prefix : active()) {
-                if (msg.startsWith(prefix)) {
-                    lines() << msg;
-                    return;
-                }
-            }
-        }
-        if (previous())
-            previous()(type, context, msg);
-    }
-};
-
-class WordTranslator : public QTranslator
-{
-public:
-    WordTranslator(const char *from, const char *to) : from(from), to(QString::fromUtf8(to)) {}
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context, const char *sourceText, const char *, int) const override
-    {
-        // Engine literals live in the generic context.
-        return qstrcmp(context, "QObject") == 0 && qstrcmp(sourceText, from) == 0 ? to : QString();
-    }
-
-private:
-    QByteArray from;
-    QString to;
-};
 
 // A record from value/literal pairs, in the order given.
 inline QVariant record(const QList<QPair<int, QString>> &entries)
@@ -84,6 +36,23 @@ inline QVariant longRecord(int n)
     return record(entries);
 }
 
+// The debug lines caught so far, which are then forgotten.
+inline QStringList takeLines()
+{
+    const QStringList out = DebugLines::lines();
+    DebugLines::lines().clear();
+    return out;
+}
+
+// The first arguments of the signals a spy caught, as numbers.
+inline QList<int> firstInts(const QSignalSpy &spy)
+{
+    QList<int> out;
+    for (const QList<QVariant> &args : spy)
+        out << args.at(0).toInt();
+    return out;
+}
+
 // Sets an application property for the life of the object.
 class AppProperty
 {
@@ -93,6 +62,40 @@ public:
 
 private:
     const char *name;
+};
+
+// A screen with one enumerated widget under its edit filter, and a popup floating over it.
+template <typename Widget, typename Popup>
+struct PopupStage
+{
+    explicit PopupStage(const QRect &at, int screenWidth = 800)
+    {
+        screen.resize(screenWidth, 480);
+        widget = new Widget(&screen);
+        widget->setGeometry(at);
+        filter = new QKXComboEventFilter(widget);
+        widget->installEventFilter(filter);
+        popup = new Popup(&screen);
+        screen.show();
+    }
+    bool ready()
+    {
+        return QTest::qWaitForWindowExposed(&screen) && QTest::qWaitFor([this] { return filter->isMachineStarted(); });
+    }
+    QLabel *field() const { return widget->template findChild<QLabel *>(QStringLiteral("ComboText")); }
+    int fieldTop() const { return field()->mapTo(const_cast<QWidget *>(&screen), QPoint()).y(); }
+    QKXComboListItem *item(int row) const { return popup->shownItems().value(row); }
+    QPoint centreOf(QWidget *w) const { return w->mapTo(const_cast<QWidget *>(&screen), w->rect().center()); }
+    void open(int current)
+    {
+        widget->setIndex(current);
+        popup->registerWidget(filter, widget);
+    }
+
+    QWidget screen;
+    Widget *widget;
+    QKXComboEventFilter *filter;
+    Popup *popup;
 };
 
 // The host side of an edit: grants every lock request at once (unless told not to), opens the popup on

@@ -2,11 +2,15 @@
 #define KXTESTSUPPORT_H
 
 // What every widget test needs: the library's debug lines caught as they are written, and a
-// translator that knows one word.
+// translator that knows a few words.
 
 #include <QtTest>
 
+#include <QHash>
 #include <QTranslator>
+
+#include <initializer_list>
+#include <utility>
 
 namespace kxtest {
 
@@ -35,19 +39,24 @@ private:
     }
 };
 
+// Translates the given source words, whatever their context.
 class WordTranslator : public QTranslator
 {
 public:
-    WordTranslator(const char *from, const char *to) : from(from), to(QString::fromUtf8(to)) {}
+    WordTranslator(const char *from, const char *to) : WordTranslator({{from, to}}) {}
+    WordTranslator(std::initializer_list<std::pair<const char *, const char *>> pairs)
+    {
+        for (const auto &pair : pairs)
+            words.insert(QByteArray(pair.first), QString::fromUtf8(pair.second));
+    }
     bool isEmpty() const override { return false; }
     QString translate(const char *, const char *sourceText, const char *, int) const override
     {
-        return from == sourceText ? to : QString();
+        return words.value(QByteArray(sourceText));
     }
 
 private:
-    QByteArray from;
-    QString to;
+    QHash<QByteArray, QString> words;
 };
 
 } // namespace kxtest

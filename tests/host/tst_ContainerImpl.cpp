@@ -1,12 +1,12 @@
 #include "CSS.h"
 #include "ContainerImpl.h"
+#include "KXTestSupport.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTranslator>
 #include <QtTest>
 
 namespace {
@@ -29,17 +29,6 @@ QString borderFrameRule(const ContainerImpl &popup)
     return start < 0 ? QString() : sheet.mid(start, sheet.indexOf(QLatin1Char('}'), start) - start);
 }
 
-class GermanCloseKey : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context, const char *source, const char *, int) const override
-    {
-        const bool closeKey = qstrcmp(context, "ContainerBase") == 0 && qstrcmp(source, "Close") == 0;
-        return closeKey ? QStringLiteral("Schließen") : QString();
-    }
-};
-
 } // namespace
 
 class tst_ContainerImpl : public QObject
@@ -51,8 +40,6 @@ private Q_SLOTS:
     void openedAndClosedEachTime();
     void showPlacesPopup();
     void dragKeepsInsideParent();
-    void noDragThroughKeysOrWhenDisabled();
-    void replacingLayout();
     void border();
     void closeKey();
 
@@ -121,62 +108,30 @@ void tst_ContainerImpl::dragKeepsInsideParent()
 {
     ContainerImpl popup(screen);
     popup.setWindowTitle(QStringLiteral("Spinner"));
+    auto *row = new QHBoxLayout;
+    auto *key = new QPushButton(QStringLiteral("7"));
+    key->setMinimumSize(60, 50);
+    row->addWidget(key);
+    popup.setLayout(row, true);
     popup.setNormalSize(100, 80);
     popup.move(50, 50);
     popup.show();
 
-    // Presses on the title text fall through to the container, which drags.
+    // Presses on the title text fall through to the container, which drags, never out of its parent.
     drag(window.data(), origin + QPoint(60, 60), origin + QPoint(90, 100));
     QCOMPARE(popup.pos(), QPoint(80, 90));
     drag(window.data(), origin + QPoint(90, 100), origin + QPoint(470, 360));
     QCOMPARE(popup.pos(), QPoint(300, 220));
     drag(window.data(), origin + QPoint(310, 230), origin + QPoint(-15, -25));
     QCOMPARE(popup.pos(), QPoint(0, 0));
-}
 
-void tst_ContainerImpl::noDragThroughKeysOrWhenDisabled()
-{
-    ContainerImpl popup(screen);
-    auto *row = new QHBoxLayout;
-    auto *key = new QPushButton(QStringLiteral("7"));
-    key->setMinimumSize(60, 50);
-    row->addWidget(key);
-    popup.setLayout(row, true);
-    popup.move(10, 10);
-    popup.show();
-
+    // A press on a key is the key's; a container that is not draggable stays put.
     const QPoint onKey = key->mapTo(window.data(), key->rect().center());
     drag(window.data(), onKey, onKey + QPoint(40, 40));
-    QCOMPARE(popup.pos(), QPoint(10, 10));
-
+    QCOMPARE(popup.pos(), QPoint(0, 0));
     popup.setDraggable(false);
-    drag(window.data(), origin + QPoint(12, 12), origin + QPoint(80, 80));
-    QCOMPARE(popup.pos(), QPoint(10, 10));
-}
-
-void tst_ContainerImpl::replacingLayout()
-{
-    ContainerImpl popup(screen);
-    auto *keep = new QPushButton(QStringLiteral("Enter"));
-    keep->setMinimumSize(150, 120);
-    auto *first = new QVBoxLayout;
-    first->addWidget(keep);
-    popup.setLayout(first, true);
-    QVERIFY(popup.width() >= 150 && popup.height() >= 120);
-
-    // A layout rebuilt around the same key: the old one goes, the key stays.
-    QPointer<QLayout> old = first;
-    auto *second = new QHBoxLayout;
-    second->addWidget(keep);
-    popup.setLayout(second, false);
-    QVERIFY(old.isNull());
-    QCOMPARE(keep->parentWidget(), popup.getContainerFrame());
-
-    // A new layout that sat inside the old one survives the old one's deletion.
-    auto *nested = new QVBoxLayout;
-    second->addLayout(nested);
-    popup.setLayout(nested, false);
-    QCOMPARE(popup.getContainerFrame()->layout(), nested);
+    drag(window.data(), origin + QPoint(10, 10), origin + QPoint(80, 80));
+    QCOMPARE(popup.pos(), QPoint(0, 0));
 }
 
 void tst_ContainerImpl::border()
@@ -204,16 +159,11 @@ void tst_ContainerImpl::closeKey()
     popup.show();
     QVERIFY(key && key->isVisible());
 
-    GermanCloseKey german;
+    kxtest::WordTranslator german("Close", "Schließen");
     QCoreApplication::installTranslator(&german);
     QTRY_COMPARE(key->text(), QStringLiteral("Schließen"));
     QCoreApplication::removeTranslator(&german);
     QTRY_COMPARE(key->text(), QStringLiteral("Close"));
-
-    QSignalSpy closed(&popup, &ContainerBase::WindowClosed);
-    QTest::mouseClick(key, Qt::LeftButton);
-    QVERIFY(!popup.isVisible());
-    QCOMPARE(closed.count(), 1);
 
     popup.setWindowTitle(QStringLiteral("Keyboard"), ContainerBase::NoTitleButtons);
     popup.show();

@@ -19,24 +19,18 @@ void tst_QKXUtil::processString_data()
     QTest::addColumn<QString>("input");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("plain") << "Level" << "Level";
-    QTest::newRow("empty") << "" << "";
     QTest::newRow("blank") << " \t\n " << "";
     QTest::newRow("trimmed") << "  RF Out \n" << "RF Out";
     QTest::newRow("line break") << "Carrier\nLevel" << "Carrier<br>Level";
     QTest::newRow("crlf") << "a\r\nb" << "a<br>b";
     QTest::newRow("escaped break") << "Carrier\\nLevel" << "Carrier<br>Level";
-    QTest::newRow("two breaks") << "a\n\\nb" << "a<br><br>b";
-    QTest::newRow("square") << "m/s^2" << "m/s<sup>2</sup>";
     QTest::newRow("inverse") << "s^-1" << "s<sup>-1</sup>";
     QTest::newRow("two digits") << "2^10 Hz" << "2<sup>10</sup> Hz";
-    QTest::newRow("caret alone") << "^" << "^";
     QTest::newRow("caret at end") << "dB^" << "dB^";
     QTest::newRow("sign at end") << "dB^-" << "dB^-";
     QTest::newRow("caret letter") << "x^n" << "x^n";
     QTest::newRow("double caret") << "^^2" << "^<sup>2</sup>";
     QTest::newRow("backslash at end") << "path\\" << "path\\";
-    QTest::newRow("both") << " W/m^2\\nper Hz^-1 " << "W/m<sup>2</sup><br>per Hz<sup>-1</sup>";
 }
 
 void tst_QKXUtil::processString()
@@ -53,9 +47,7 @@ void tst_QKXUtil::stringWidth_data()
     QTest::addColumn<QString>("widestLine");
 
     QTest::newRow("empty") << "" << "";
-    QTest::newRow("plain") << "Frequency" << "Frequency";
     QTest::newRow("plain lines") << "ab\nlonger line\ncd" << "longer line";
-    QTest::newRow("bold") << "<b>MHz</b>" << "MHz";
     QTest::newRow("rich lines") << "kHz<br>Deviation<br>%" << "Deviation";
     QTest::newRow("entity") << "<i>A &amp; B</i>" << "A & B";
     QTest::newRow("superscript") << "dBm<sup>2</sup>" << "dBm2";

@@ -70,20 +70,17 @@ class tst_QKXNumericValueObj : public QObject
     Q_OBJECT
 
 private slots:
-    void offersTheListAndShowsTheDefaultUnit();
-    void setValueConvertsForDisplayInSignalOrder();
-    void selectingAUnitRewritesFromTheStoredValue();
+    void unitsConvertAndSignalInOrder();
     void groupModes_data();
     void groupModes();
     void newUnitWithTheValueRebuildsTheList();
     void badUnitData();
     void looksWithAndWithoutUnit();
-    void filterCommitsInTheSelectedUnit();
-    void filterCancelAndHideGiveBackTheBaseValue();
+    void filterHideAndLongCancel();
     void unitFilterSitsOnTheSelectorOnlyWhileIdle();
 };
 
-void tst_QKXNumericValueObj::offersTheListAndShowsTheDefaultUnit()
+void tst_QKXNumericValueObj::unitsConvertAndSignalInOrder()
 {
     FrequencyField f;
     const QVariantList expected{
@@ -93,59 +90,24 @@ void tst_QKXNumericValueObj::offersTheListAndShowsTheDefaultUnit()
     };
     QCOMPARE(f.field.property("UnitList").toList(), expected);
     QCOMPARE(f.selector->metaData().toList(), expected);
-    QCOMPARE(f.field.unitIndex(), 1);
-    QCOMPARE(f.field.currentUnitName(), QStringLiteral("kHz"));
-    QCOMPARE(f.field.currentUnit(), kilohertz());
     QCOMPARE(f.field.property("CurrentUnit").toString(), kilohertz());
-    QVERIFY(!f.selector->isHidden());
     // The selector is the right half of the field: its own caption is gone, its text centred.
-    QVERIFY(!f.selector->findChild<QLabel *>(QStringLiteral("Label")));
-    QVERIFY(f.selector->labelText().isEmpty());
+    QVERIFY(!f.selector->isHidden() && !f.selector->findChild<QLabel *>(QStringLiteral("Label")));
     auto *unitText = f.selector->findChild<QLabel *>(QStringLiteral("ComboText"));
     QVERIFY(unitText && !unitText->isEnabled());
     QCOMPARE(unitText->alignment(), Qt::AlignCenter);
-}
 
-void tst_QKXNumericValueObj::setValueConvertsForDisplayInSignalOrder()
-{
-    FrequencyField f;
     QStringList log;
     logField(&f.field, log);
-    f.field.setValue(1500.0);
-    QCOMPARE(f.display->text(), QStringLiteral("1.5"));
-    QCOMPARE(f.field.value(), 1500.0);
-    QCOMPARE(log, QStringList({"shown 1.5", "shown int 1", "display 1.5", "value 1500 " + hertz(),
-                               "value int 1500 " + hertz()}));
-
-    // The integer form converts with the half-up rounding of the units helper.
-    log.clear();
-    f.field.setUnitIndex(0);
-    log.clear();
-    f.field.setValue(2500);
-    QCOMPARE(f.display->text(), QStringLiteral("2500.0"));
-    QCOMPARE(log, QStringList({"shown 2500", "shown int 2500", "display 2500", "value 2500 " + hertz(),
-                               "value int 2500 " + hertz()}));
-
-    // A precision change shows the stored engine value again, not the shown number re-converted.
-    f.field.setUnitIndex(1);
-    f.field.setValue(1234.5);
-    f.field.setPrecision(3);
-    QCOMPARE(f.display->text(), QStringLiteral("1.234"));
-    QCOMPARE(f.field.value(), 1234.5);
-}
-
-void tst_QKXNumericValueObj::selectingAUnitRewritesFromTheStoredValue()
-{
-    FrequencyField f;
     f.field.setValue(1234.0);
     QCOMPARE(f.display->text(), QStringLiteral("1.2"));
-    QStringList log;
-    logField(&f.field, log);
+    QCOMPARE(log, QStringList({"shown 1.234", "shown int 1", "display 1.234", "value 1234 " + hertz(),
+                               "value int 1234 " + hertz()}));
 
+    log.clear();
     f.field.setUnitIndex(2);
     QCOMPARE(f.display->text(), QStringLiteral("0.0"));
     QCOMPARE(log, QStringList({"unit 2", "unit " + megahertz()}));
-    QCOMPARE(f.field.currentUnitName(), QStringLiteral("MHz"));
 
     // Re-selecting the unit in force, from the widget or from its selector, does nothing.
     log.clear();
@@ -155,19 +117,22 @@ void tst_QKXNumericValueObj::selectingAUnitRewritesFromTheStoredValue()
 
     // The selector drives the field too; a text without "." stays without decimals.
     f.selector->setIndex(0);
-    QCOMPARE(f.field.unitIndex(), 0);
     QCOMPARE(f.display->text(), QStringLiteral("1234.0"));
     f.field.setPrecision(0);
     f.selector->setIndex(1);
     QCOMPARE(f.display->text(), QStringLiteral("1"));
     QCOMPARE(log, QStringList({"unit 0", "unit " + hertz(), "shown 1234", "shown int 1234", "display 1234",
-                                      "value 1234 " + hertz(), "value int 1234 " + hertz(), "unit 1",
-                                      "unit " + kilohertz()}));
+                               "value 1234 " + hertz(), "value int 1234 " + hertz(), "unit 1", "unit " + kilohertz()}));
+
+    // A precision change shows the stored engine value again, not the shown number re-converted.
+    f.field.setValue(1234.5);
+    f.field.setPrecision(3);
+    QCOMPARE(f.display->text(), QStringLiteral("1.234"));
 
     // Without conversion the stored value is shown whatever the unit.
     f.field.setConvertsUnits(false);
     f.field.setUnitIndex(2);
-    QCOMPARE(f.display->text(), QStringLiteral("1234"));
+    QCOMPARE(f.display->text(), QStringLiteral("1234.500"));
 }
 
 void tst_QKXNumericValueObj::groupModes_data()
@@ -177,10 +142,8 @@ void tst_QKXNumericValueObj::groupModes_data()
     QTest::addColumn<QStringList>("offered");
     const QString mixed = QStringList{kilohertz(), seconds(), megahertz()}.join('|');
     QTest::newRow("convertable") << int(QKXNumericValueObj::Convertable) << mixed << QStringList({"0 kHz", "2 MHz"});
-    QTest::newRow("base") << int(QKXNumericValueObj::Base) << mixed << QStringList({"0 kHz", "2 MHz"});
     QTest::newRow("none") << int(QKXNumericValueObj::None) << mixed << QStringList({"-1 Hz"});
     QTest::newRow("nothing converts") << int(QKXNumericValueObj::Convertable) << seconds() << QStringList({"-1 Hz"});
-    QTest::newRow("empty list") << int(QKXNumericValueObj::Convertable) << QString() << QStringList({"-1 Hz"});
 }
 
 void tst_QKXNumericValueObj::groupModes()
@@ -201,13 +164,9 @@ void tst_QKXNumericValueObj::groupModes()
 void tst_QKXNumericValueObj::newUnitWithTheValueRebuildsTheList()
 {
     FrequencyField f;
-    QSignalSpy values(&f.field, QOverload<double, QString>::of(&QKXNumericValueObj::valueChanged));
     f.field.setValue(5.0, kilohertz());
     QCOMPARE(f.field.baseUnit(), kilohertz());
-    QCOMPARE(f.field.currentUnit(), kilohertz());
     QCOMPARE(f.display->text(), QStringLiteral("5.0"));
-    QCOMPARE(values.count(), 1);
-    QCOMPARE(values.at(0).at(1).toString(), kilohertz());
     // The same unit again changes nothing but the value; MHz still converts from the new base.
     f.field.setUnitIndex(2);
     f.field.setValue(2500.0, kilohertz());
@@ -281,7 +240,6 @@ void tst_QKXNumericValueObj::looksWithAndWithoutUnit()
                            "    border-bottom-left-radius: 10px;"));
     QVERIFY(sheet.contains("QKXComboBox QLabel#ComboText:disabled {    background-color: transparent;"
                            "    border-color: #fff;    border-left-width: 2px;    color: #fff;}"));
-    QVERIFY(sheet.contains("font-size: 14px;"));
     f.field.setLocked(true);
     f.field.setReadOnly(true);
     QCOMPARE(f.field.styleSheet(), sheet + lock + readOnly);
@@ -293,111 +251,45 @@ void tst_QKXNumericValueObj::looksWithAndWithoutUnit()
     QFont font = QApplication::font();
     font.setPixelSize(14);
     QCOMPARE(f.selector->minimumWidth(), QKXUtil::calculateStringWidth(QFontMetrics(font), "kHz") + 22);
-    QCOMPARE(f.selector->maximumWidth(), f.selector->minimumWidth());
     f.field.changeSize(QStringLiteral("Max"));
-    font.setPixelSize(20);
-    QCOMPARE(f.selector->maximumWidth(), QKXUtil::calculateStringWidth(QFontMetrics(font), "kHz") + 22);
-    QVERIFY(f.field.styleSheet().contains("font-size: 20px;"));
     f.field.setUnitIndex(2);
-    QCOMPARE(f.selector->minimumWidth(), QKXUtil::calculateStringWidth(QFontMetrics(font), "MHz") + 22);
+    font.setPixelSize(20);
+    QCOMPARE(f.selector->maximumWidth(), QKXUtil::calculateStringWidth(QFontMetrics(font), "MHz") + 22);
+    QCOMPARE(f.selector->minimumWidth(), f.selector->maximumWidth());
 
-    // Without a unit text: the plain numeric sheet and its own lock mark.
+    // Without a unit text: the plain numeric look and its own lock mark.
     QKXNumericValueObj plain;
     plain.setUnitListString(QString());
     plain.setLocked(true);
-    QVERIFY(plain.styleSheet().startsWith("QLineEdit {    padding: 1px 5px 0px 5px;    margin: 0px;    border: 2px solid #fff;"));
     QVERIFY(plain.styleSheet().contains("url(:/images/lock_generic.png)"));
 }
 
-void tst_QKXNumericValueObj::filterCommitsInTheSelectedUnit()
-{
-    QStringList log;
-    FrequencyField f;
-    f.field.setValue(1500.0);
-    auto *filter = new QKXNumericValueObjEventFilter(&f.field, QStringLiteral("ValueDouble"), nullptr, nullptr);
-    f.field.installEventFilter(filter);
-    QCOMPARE(filter->property("DataType").toString(), QStringLiteral("ValueDouble"));
-    QVERIFY(QTest::qWaitFor([&] { return filter->isMachineStarted() && !f.display->isEnabled(); }));
-    QObject::connect(filter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit),
-                     [&log](double v, const QString &u) { log << QStringLiteral("double %1 %2").arg(v).arg(u); });
-    QObject::connect(filter, QOverload<int, QString>::of(&QKXNumericValueObjEventFilter::submit),
-                     [&log](int v, const QString &u) { log << QStringLiteral("int %1 %2").arg(v).arg(u); });
-    QObject::connect(filter, &QKXEventFilterBase::editEnd, [&log] { log << QStringLiteral("editEnd"); });
-    QCOMPARE(filter->getUnitString(), kilohertz());
-
-    // Without an adapter a tap starts the edit at once.
-    f.field.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&f.field));
-    QTest::mouseClick(&f.field, Qt::LeftButton, {}, f.display->geometry().center());
-    QVERIFY(QTest::qWaitFor([&] { return filter->isEditing() && f.display->isEnabled(); }));
-    QCOMPARE(filter->savedValue(), 1500.0);
-    QCOMPARE(filter->unitString(), kilohertz());
-    QVERIFY(filter->unitLabel()->isEnabled());
-    QCOMPARE(f.display->selectedText(), QStringLiteral("1.5"));
-
-    f.display->setText(QStringLiteral("2.5"));
-    QTest::keyClick(f.display, Qt::Key_Return);
-    QCOMPARE(log, QStringList({"double 2.5 " + kilohertz(), "int 2 " + kilohertz(), "editEnd"}));
-    QVERIFY(QTest::qWaitFor([&] { return !filter->isEditing() && !filter->unitLabel()->isEnabled(); }));
-
-    // Typed text that is no number keeps the edit open.
-    DebugLines lines;
-    log.clear();
-    filter->lockAcquired(&f.field);
-    QVERIFY(QTest::qWaitFor([&] { return filter->isEditing(); }));
-    f.display->setText(QStringLiteral("2,5k"));
-    QTest::keyClick(f.display, Qt::Key_Enter);
-    QVERIFY(log.isEmpty());
-    QCOMPARE(lines.lines(), QStringList({"UserInterface - QKXNumericValueObjEventFilter: \"2,5k\" is not a number "
-                                         "for ValueDouble - nothing submitted"}));
-
-    // The host's own calls: both forms, or the double form in the unit shown.
-    filter->submitWidgetValue(3.75, megahertz());
-    filter->enterVale(4.5);
-    QCOMPARE(log, QStringList({"double 3.75 " + megahertz(), "int 3 " + megahertz(), "double 4.5 " + kilohertz()}));
-}
-
-void tst_QKXNumericValueObj::filterCancelAndHideGiveBackTheBaseValue()
+void tst_QKXNumericValueObj::filterHideAndLongCancel()
 {
     FrequencyField f;
-    f.field.setValue(1500.0);
     DoubleAdapter adapter(1499.0);
     IntAdapter longAdapter(-7);
     auto *filter = new QKXNumericValueObjEventFilter(&f.field, QStringLiteral("ValueDouble"), nullptr, &adapter);
     f.field.installEventFilter(filter);
     QSignalSpy doubles(filter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit));
-    QSignalSpy ints(filter, QOverload<int, QString>::of(&QKXNumericValueObjEventFilter::submit));
     QSignalSpy ends(filter, &QKXEventFilterBase::editEnd);
-    QSignalSpy locks(filter, &QKXEventFilterBase::attemptSetLock);
     f.field.show();
     QVERIFY(QTest::qWaitForWindowExposed(&f.field));
-    QVERIFY(QTest::qWaitFor([&] { return locks.count() == 1; }));
+    QVERIFY(QTest::qWaitFor([&] { return filter->isMachineStarted(); }));
 
-    // With an adapter the tap asks for the lock; the grant starts the edit.
-    QTest::mouseClick(&f.field, Qt::LeftButton, {}, f.display->geometry().center());
-    QCOMPARE(locks.count(), 2);
-    QCOMPARE(locks.at(1).at(1).toBool(), true);
-    filter->lockAcquired(&f.field);
-    QVERIFY(QTest::qWaitFor([&] { return filter->isEditing(); }));
-    QTest::keyClick(f.display, Qt::Key_Escape);
-    QCOMPARE(doubles.count(), 1);
-    QCOMPARE(doubles.at(0).at(0).toDouble(), 1499.0);
-    QCOMPARE(doubles.at(0).at(1).toString(), hertz());
-    QCOMPARE(ints.count(), 0);
-    QCOMPARE(ends.count(), 1);
-
-    // Hiding the field mid-edit cancels once; an idle hide is swallowed without an editEnd.
+    // Hiding the field mid-edit gives the engine's value back once; an idle hide is swallowed.
     filter->lockAcquired(&f.field);
     QVERIFY(QTest::qWaitFor([&] { return filter->isEditing(); }));
     f.field.hide();
-    QCOMPARE(doubles.count(), 2);
-    QCOMPARE(ends.count(), 2);
+    QCOMPARE(doubles.count(), 1);
+    QCOMPARE(doubles.at(0), QVariantList({1499.0, hertz()}));
+    QCOMPARE(ends.count(), 1);
     QVERIFY(QTest::qWaitFor([&] { return !filter->isEditing(); }));
     f.field.show();
     f.field.hide();
-    QCOMPARE(ends.count(), 2);
+    QCOMPARE(ends.count(), 1);
 
-    // "ValueLong" gives back the integer form only, truncated.
+    // "ValueLong" gives back the integer form only.
     auto *longFilter = new QKXNumericValueObjEventFilter(&f.field, QStringLiteral("ValueLong"), nullptr, &longAdapter);
     QSignalSpy longInts(longFilter, QOverload<int, QString>::of(&QKXNumericValueObjEventFilter::submit));
     QSignalSpy longDoubles(longFilter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit));
@@ -408,8 +300,7 @@ void tst_QKXNumericValueObj::filterCancelAndHideGiveBackTheBaseValue()
     longFilter->cancel();
     QCOMPARE(longDoubles.count(), 0);
     QCOMPARE(longInts.count(), 1);
-    QCOMPARE(longInts.at(0).at(0).toInt(), -7);
-    QCOMPARE(longInts.at(0).at(1).toString(), hertz());
+    QCOMPARE(longInts.at(0), QVariantList({-7, hertz()}));
 }
 
 void tst_QKXNumericValueObj::unitFilterSitsOnTheSelectorOnlyWhileIdle()

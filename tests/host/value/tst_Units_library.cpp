@@ -56,10 +56,6 @@ class tst_Units_library : public QObject
 private Q_SLOTS:
     void unitText_data();
     void unitText();
-    void unitTextRefused_data();
-    void unitTextRefused();
-    void prefixStepsRoundOnce_data();
-    void prefixStepsRoundOnce();
     void conversions_data();
     void conversions();
     void conversionFailures_data();
@@ -77,19 +73,19 @@ void tst_Units_library::unitText_data()
 
     QTest::newRow("kHz") << us(kilo, {{hertz, 1}}) << "kHz" << "kHz";
     QTest::newRow("micro") << us(micro, {{volt, 1}}) << QString::fromUtf8("\u00b5V") << "uV";
-    QTest::newRow("peta") << us(peta, {{hertz, 1}}) << "PHz" << "PHz";
     QTest::newRow("ohm sign") << us(mega, {{ohm, 1}}) << QString::fromUtf8("M\u2126") << "MOhm";
-    QTest::newRow("dBuV") << us(0, {{decibel_microvolt, 1}}) << QString::fromUtf8("dB\u00b5V") << "dBuV";
     QTest::newRow("V/m") << us(0, {{volt, 1}, {metre, -1}}) << "V/m" << "V/m";
-    QTest::newRow("kbit/s") << us(kilo, {{bit, 1}, {second, -1}}) << "kbit/s" << "kbit/s";
-    QTest::newRow("m/s2") << us(0, {{metre, 1}, {second, -2}}) << QString::fromUtf8("m/s\u00b2") << "m/s^2";
     QTest::newRow("two below") << us(0, {{watt, 1}, {hertz, -1}, {metre, -2}})
                                << QString::fromUtf8("W/(Hz\u00b7m\u00b2)") << "W/(Hz*m^2)";
     QTest::newRow("only below") << us(0, {{second, -1}}) << QString::fromUtf8("s\u207b\u00b9") << "s^-1";
     QTest::newRow("power 12") << us(0, {{metre, 12}}) << QString::fromUtf8("m\u00b9\u00b2") << "m^12";
     QTest::newRow("empty pairs skipped") << us(0, {{none, 0}, {hertz, 0}, {watt, 1}}) << "W" << "W";
-    QTest::newRow("plain number") << us(0, {}) << "" << "";
     QTest::newRow("prefixed number") << us(kilo, {}) << "k" << "k";
+    // Refused in symbols (and so in plain text): "!".
+    QTest::newRow("unknown unit, power 0") << us(0, {{hertz, 1}, {99, 0}}) << "!" << "!";
+    QTest::newRow("centi") << us(-2, {{metre, 1}}) << "!" << "!";
+    QTest::newRow("exa") << us(18, {{hertz, 1}}) << "!" << "!";
+    QTest::newRow("kdBm") << us(kilo, {{decibel_milliwatt, 1}}) << "!" << "!";
 }
 
 void tst_Units_library::unitText()
@@ -97,56 +93,16 @@ void tst_Units_library::unitText()
     QFETCH(QString, units);
     QFETCH(QString, symbol);
     QFETCH(QString, plain);
-    QCOMPARE(QString::fromStdString(Units_library::Get_unit_string(::units(units), Units_library::Symbol_text)), symbol);
-    QCOMPARE(QString::fromStdString(Units_library::Get_unit_string(::units(units), Units_library::Plain_text)), plain);
-}
-
-void tst_Units_library::unitTextRefused_data()
-{
-    QTest::addColumn<QString>("units");
-    QTest::addColumn<int>("type");
-
-    QTest::newRow("unknown unit") << us(0, {{units_list_end, 1}}) << 1;
-    QTest::newRow("unknown unit, power 0") << us(0, {{hertz, 1}, {99, 0}}) << 1;
-    QTest::newRow("centi") << us(-2, {{metre, 1}}) << 1;
-    QTest::newRow("exa") << us(18, {{hertz, 1}}) << 1;
-    QTest::newRow("kdBm") << us(kilo, {{decibel_milliwatt, 1}}) << 1;
-    QTest::newRow("type 3") << us(0, {{hertz, 1}}) << 3;
-}
-
-void tst_Units_library::unitTextRefused()
-{
-    QFETCH(QString, units);
-    QFETCH(int, type);
-    QVERIFY_EXCEPTION_THROWN(Units_library::Get_unit_string(::units(units), type), Value_exception);
-}
-
-void tst_Units_library::prefixStepsRoundOnce_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<double>("expected");
-
-    // Rows where multiplying by the rounded reciprocal (9 * 0.001) is one unit in the last place off.
-    QTest::newRow("9 mV") << 9.0 << int(milli) << 0 << 0.009;
-    QTest::newRow("3 nHz") << 3.0 << int(nano) << 0 << 3e-9;
-    QTest::newRow("11 pHz") << 11.0 << int(pico) << 0 << 1.1e-11;
-    QTest::newRow("1500 to k") << 1500.0 << 0 << int(kilo) << 1.5;
-    QTest::newRow("pico to peta") << 3.0 << int(pico) << int(peta) << 3e-27;
-    QTest::newRow("peta to pico") << 7.0 << int(peta) << int(pico) << 7e27;
-    QTest::newRow("44 decades") << 1.0 << -22 << 22 << 1e-44;
-    QTest::newRow("overflow") << 1e300 << 300 << 0 << std::numeric_limits<double>::infinity();
-    QTest::newRow("far beyond") << 1.0 << std::numeric_limits<int>::min() << std::numeric_limits<int>::max() << 0.0;
-}
-
-void tst_Units_library::prefixStepsRoundOnce()
-{
-    QFETCH(double, value);
-    QFETCH(int, from);
-    QFETCH(int, to);
-    QFETCH(double, expected);
-    COMPARE_EXACT(Units_library::Convert(value, units(us(from, {{hertz, 1}})), units(us(to, {{hertz, 1}}))), expected);
+    const auto text = [&](int type) {
+        try {
+            return QString::fromStdString(Units_library::Get_unit_string(::units(units), type));
+        } catch (const Value_exception &) {
+            return QStringLiteral("!");
+        }
+    };
+    QCOMPARE(text(Units_library::Symbol_text), symbol);
+    QCOMPARE(text(Units_library::Plain_text), plain);
+    QCOMPARE(text(3), QStringLiteral("!"));   // no third kind of text
 }
 
 void tst_Units_library::conversions_data()
@@ -155,7 +111,6 @@ void tst_Units_library::conversions_data()
     QTest::addColumn<QString>("from");
     QTest::addColumn<QString>("to");
     QTest::addColumn<double>("expected");
-    QTest::addColumn<bool>("exact");
 
     const QString W = us(0, {{watt, 1}});
     const QString mW = us(milli, {{watt, 1}});
@@ -166,28 +121,33 @@ void tst_Units_library::conversions_data()
     const QString dB = us(0, {{decibel, 1}});
     const QString ratio = us(0, {});
 
-    QTest::newRow("30 dBm in W") << 30.0 << dBm << W << 1.0 << true;
-    QTest::newRow("0 dBm in W") << 0.0 << dBm << W << 0.001 << true;
-    QTest::newRow("-30 dBm in W") << -30.0 << dBm << W << 1e-6 << true;
-    QTest::newRow("10 dBm in mW") << 10.0 << dBm << mW << 10.0 << true;
-    QTest::newRow("1 W in dBm") << 1.0 << W << dBm << 30.0 << true;
-    QTest::newRow("1 mW in dBm") << 1.0 << mW << dBm << 0.0 << true;
-    QTest::newRow("0.001 W in dBm") << 0.001 << W << dBm << 0.0 << true;
-    QTest::newRow("0 W in dBm") << 0.0 << W << dBm << -std::numeric_limits<double>::infinity() << true;
-    QTest::newRow("dBm in dBW") << -30.0 << dBm << dBW << -60.0 << true;
-    QTest::newRow("120 dBuV in V") << 120.0 << dBuV << V << 1.0 << true;
-    QTest::newRow("1 mV in dBuV") << 1.0 << us(milli, {{volt, 1}}) << dBuV << 60.0 << true;
-    QTest::newRow("20 dB as ratio") << 20.0 << dB << ratio << 100.0 << true;
-    QTest::newRow("3 dB as ratio") << 3.0 << dB << ratio << 1.9952623149688795 << false;
-    QTest::newRow("0 dB in percent") << 0.0 << dB << us(0, {{percent, 1}}) << 100.0 << true;
+    // Prefix steps divide or multiply by the power of ten once: multiplying by a rounded reciprocal
+    // (9 * 0.001) is one unit in the last place off.
+    const auto hz = [](int prefix) { return us(prefix, {{hertz, 1}}); };
+    QTest::newRow("9 mHz") << 9.0 << hz(milli) << hz(0) << 0.009;
+    QTest::newRow("1500 to k") << 1500.0 << hz(0) << hz(kilo) << 1.5;
+    QTest::newRow("pico to peta") << 3.0 << hz(pico) << hz(peta) << 3e-27;
+    QTest::newRow("peta to pico") << 7.0 << hz(peta) << hz(pico) << 7e27;
+    QTest::newRow("44 decades") << 1.0 << hz(-22) << hz(22) << 1e-44;
+    QTest::newRow("overflow") << 1e300 << hz(300) << hz(0) << std::numeric_limits<double>::infinity();
+    QTest::newRow("far beyond") << 1.0 << hz(std::numeric_limits<int>::min()) << hz(std::numeric_limits<int>::max())
+                                << 0.0;
+    QTest::newRow("30 dBm in W") << 30.0 << dBm << W << 1.0;
+    QTest::newRow("10 dBm in mW") << 10.0 << dBm << mW << 10.0;
+    QTest::newRow("1 W in dBm") << 1.0 << W << dBm << 30.0;
+    QTest::newRow("0 W in dBm") << 0.0 << W << dBm << -std::numeric_limits<double>::infinity();
+    QTest::newRow("dBm in dBW") << -30.0 << dBm << dBW << -60.0;
+    QTest::newRow("120 dBuV in V") << 120.0 << dBuV << V << 1.0;
+    QTest::newRow("1 mV in dBuV") << 1.0 << us(milli, {{volt, 1}}) << dBuV << 60.0;
+    QTest::newRow("20 dB as ratio") << 20.0 << dB << ratio << 100.0;
+    QTest::newRow("0 dB in percent") << 0.0 << dB << us(0, {{percent, 1}}) << 100.0;
     QTest::newRow("dBm/Hz in W/Hz") << -30.0 << us(0, {{decibel_milliwatt, 1}, {hertz, -1}})
-                                    << us(0, {{watt, 1}, {hertz, -1}}) << 1e-6 << true;
-    QTest::newRow("Hz as 1/s") << 5.0 << us(kilo, {{hertz, 1}}) << us(0, {{second, -1}}) << 5000.0 << true;
-    QTest::newRow("ppm") << 2.5 << us(0, {{parts_per_million, 1}}) << us(0, {{percent, 1}}) << 0.00025 << true;
-    QTest::newRow("KiB in kB") << 1.0 << us(0, {{kibibyte, 1}}) << us(kilo, {{byte, 1}}) << 1.024 << true;
-    QTest::newRow("YiB in B") << 1.0 << us(0, {{yobibyte, 1}}) << us(0, {{byte, 1}}) << std::ldexp(1.0, 80) << true;
+                                    << us(0, {{watt, 1}, {hertz, -1}}) << 1e-6;
+    QTest::newRow("Hz as 1/s") << 5.0 << us(kilo, {{hertz, 1}}) << us(0, {{second, -1}}) << 5000.0;
+    QTest::newRow("ppm") << 2.5 << us(0, {{parts_per_million, 1}}) << us(0, {{percent, 1}}) << 0.00025;
+    QTest::newRow("YiB in B") << 1.0 << us(0, {{yobibyte, 1}}) << us(0, {{byte, 1}}) << std::ldexp(1.0, 80);
     QTest::newRow("Mbit/s in B/s") << 1.0 << us(mega, {{bit, 1}, {second, -1}}) << us(0, {{byte, 1}, {second, -1}})
-                                   << 125000.0 << true;
+                                   << 125000.0;
 }
 
 void tst_Units_library::conversions()
@@ -196,12 +156,7 @@ void tst_Units_library::conversions()
     QFETCH(QString, from);
     QFETCH(QString, to);
     QFETCH(double, expected);
-    QFETCH(bool, exact);
-    const double result = Units_library::Convert(value, units(from), units(to));
-    if (exact)
-        COMPARE_EXACT(result, expected);
-    else
-        QCOMPARE(result, expected);
+    COMPARE_EXACT(Units_library::Convert(value, units(from), units(to)), expected);
 }
 
 void tst_Units_library::conversionFailures_data()
@@ -211,13 +166,10 @@ void tst_Units_library::conversionFailures_data()
     QTest::addColumn<QString>("to");
     QTest::addColumn<int>("failure");
 
-    QTest::newRow("Hz to V") << 1.0 << us(0, {{hertz, 1}}) << us(0, {{volt, 1}}) << int(DimensionNotSame);
     QTest::newRow("dBm to dBuV") << 1.0 << us(0, {{decibel_milliwatt, 1}}) << us(0, {{decibel_microvolt, 1}})
                                  << int(DimensionNotSame);
-    QTest::newRow("bit to percent") << 1.0 << us(0, {{bit, 1}}) << us(0, {{percent, 1}}) << int(DimensionNotSame);
     QTest::newRow("Hz to bit/s") << 1.0 << us(0, {{hertz, 1}}) << us(0, {{bit, 1}, {second, -1}}) << int(DimensionNotSame);
     QTest::newRow("dBc to dB") << 1.0 << us(0, {{decibel_carrier, 1}}) << us(0, {{decibel, 1}}) << int(NoRule);
-    QTest::newRow("dBc to ratio") << 1.0 << us(0, {{decibel_carrier, 1}}) << us(0, {}) << int(NoRule);
     QTest::newRow("dBm squared") << 1.0 << us(0, {{decibel_milliwatt, 2}}) << us(0, {{watt, 2}}) << int(NoRule);
     QTest::newRow("unknown unit") << 1.0 << us(0, {{99, 1}}) << us(0, {{hertz, 1}}) << int(NoRule);
     QTest::newRow("negative power as dBm") << -1.0 << us(0, {{watt, 1}}) << us(0, {{decibel_milliwatt, 1}})
@@ -273,7 +225,6 @@ void tst_Units_library::integerValueObjects_data()
     QTest::addColumn<long>("expected");
     QTest::addColumn<bool>("thrown");
 
-    QTest::newRow("1500 to k") << 1500L << 0 << int(kilo) << 2L << false;
     QTest::newRow("half away from zero") << 2500L << 0 << int(kilo) << 3L << false;
     QTest::newRow("half away from zero, negative") << -2500L << 0 << int(kilo) << -3L << false;
     QTest::newRow("largest, same prefix") << std::numeric_limits<long>::max() << 0 << 0

@@ -1,3 +1,4 @@
+#include "KXTestSupport.h"
 #include "Units_list.h"
 #include "ValueHelper.h"
 
@@ -8,21 +9,6 @@
 using namespace Norvane::Value;
 
 namespace {
-
-// Collects what goes to the debug stream while it lives.
-class MessageCatcher
-{
-public:
-    MessageCatcher() : m_previous(qInstallMessageHandler(&MessageCatcher::handler)) { s_lines.clear(); }
-    ~MessageCatcher() { qInstallMessageHandler(m_previous); }
-    QStringList lines() const { return s_lines; }
-
-private:
-    static void handler(QtMsgType, const QMessageLogContext &, const QString &message) { s_lines << message; }
-    static QStringList s_lines;
-    QtMessageHandler m_previous;
-};
-QStringList MessageCatcher::s_lines;
 
 // A units property string whose last four pairs are empty, with something after it.
 QString withPairs(const QString &head, const QString &tail = QString())
@@ -51,25 +37,19 @@ void tst_ValueHelper::isValidUnits_data()
     QTest::addColumn<bool>("valid");
 
     QTest::newRow("neutral") << withPairs("0,0,0:0;") << true;
-    QTest::newRow("kHz, flag") << withPairs("1,3,1:1;") << true;
-    QTest::newRow("peta") << withPairs("0,15,1:1;") << true;
     QTest::newRow("V/m") << "0,0,4:1;3:-1;0:0;0:0;0:0" << true;
-    QTest::newRow("dBm") << withPairs("0,0,14:1;") << true;
+    QTest::newRow("dBm, flag") << withPairs("1,0,14:1;") << true;
     QTest::newRow("power 9") << withPairs("0,0,3:9;") << true;
     QTest::newRow("last unit") << withPairs(QStringLiteral("0,0,%1:1;").arg(units_list_end - 1)) << true;
 
     QTest::newRow("empty") << "" << false;
-    QTest::newRow("two parts") << "0,3" << false;
     QTest::newRow("four parts") << withPairs("0,0,1:1;", ",0") << false;
     QTest::newRow("four pairs") << "0,0,1:1;0:0;0:0;0:0" << false;
     QTest::newRow("six pairs") << withPairs("0,0,1:1;", ";0:0") << false;
     QTest::newRow("bare number") << withPairs("0,0,1;") << false;
-    QTest::newRow("three fields") << withPairs("0,0,1:1:1;") << false;
     QTest::newRow("empty fields") << withPairs("0,0,:;") << false;
     QTest::newRow("flag 2") << withPairs("2,0,1:1;") << false;
-    QTest::newRow("letter prefix") << withPairs("0,k,1:1;") << false;
     QTest::newRow("huge prefix") << withPairs("0,3000000000,1:1;") << false;
-    QTest::newRow("huge power") << withPairs("0,0,1:99999999999999999999;") << false;
     QTest::newRow("unknown unit") << withPairs(QStringLiteral("0,0,%1:1;").arg(int(units_list_end))) << false;
     QTest::newRow("unknown unit, power 0") << "0,0,1:1;99:0;0:0;0:0;0:0" << false;
     QTest::newRow("centi") << withPairs("0,-2,3:1;") << false;
@@ -78,11 +58,8 @@ void tst_ValueHelper::isValidUnits_data()
     QTest::newRow("plus sign") << withPairs("0,+3,1:1;") << false;
     QTest::newRow("leading zero") << withPairs("0,03,1:1;") << false;
     QTest::newRow("minus zero") << withPairs("0,-0,1:1;") << false;
-    QTest::newRow("leading blank") << withPairs(" 0,0,1:1;") << false;
     QTest::newRow("trailing blank") << withPairs("0,0,1:1;", " ") << false;
     QTest::newRow("arabic-indic digit") << withPairs(QString::fromUtf8("0,0,\u0661:1;")) << false;
-    QTest::newRow("nul") << withPairs("0,0,1:1;").replace(1, 1, QChar(0)) << false;
-    QTest::newRow("thousands of commas") << QString(",").repeated(10000) << false;
     QTest::newRow("thousands of pairs") << QString("0,0," + QString("1:1;").repeated(5000)) << false;
 }
 
@@ -106,7 +83,6 @@ void tst_ValueHelper::extremeRecordsSurviveText_data()
     const int high = std::numeric_limits<int>::max();
     QTest::newRow("lowest") << true << low << low << low;
     QTest::newRow("highest") << false << high << high << high;
-    QTest::newRow("mixed") << true << -12 << high << -1;
 }
 
 void tst_ValueHelper::extremeRecordsSurviveText()
@@ -120,10 +96,10 @@ void tst_ValueHelper::extremeRecordsSurviveText()
     pairs[4] = {unit, power};
     const Units record = ValueHelper::newUnits(flag, static_cast<SI_units>(prefix), &pairs);
 
-    MessageCatcher catcher;
+    kxtest::DebugLines debug;
     const QString text = ValueHelper::toString(record);
     QVERIFY(ValueHelper::convertToUnits(text) == record);
-    QVERIFY(catcher.lines().isEmpty());
+    QCOMPARE(kxtest::DebugLines::lines(), QStringList());
     QVERIFY(!ValueHelper::isValidUnits(text));
 }
 
@@ -140,9 +116,9 @@ void tst_ValueHelper::levelsTakeNoBestFitPrefix()
 
 void tst_ValueHelper::unitStringFailureNamesTheHost()
 {
-    MessageCatcher catcher;
+    kxtest::DebugLines debug;
     QCOMPARE(ValueHelper::getUnitString(ValueHelper::convertToUnits(withPairs("0,0,99:1;"))), QString());
-    QCOMPARE(catcher.lines(),
+    QCOMPARE(kxtest::DebugLines::lines(),
              QStringList{"UserInterface - ValueHelper: Failed to get unit string, Base Unit probably not "
                          "initialized properly."});
 }
