@@ -20,23 +20,17 @@
 namespace kxtest {
 
 // "selector { p: v; p: v }" per rule, white space in values collapsed, rules and declarations in
-// their order. Colons and semicolons inside values do not split here: none of the sheets under test
-// puts a semicolon inside a value.
+// their order. None of the sheets under test puts a colon or semicolon inside a value that matters here.
 inline QStringList describeSheet(const QString &sheet)
 {
     QStringList out;
-    QRegularExpressionMatchIterator it =
-        QRegularExpression(QStringLiteral("([^{}]+)\\{([^{}]*)\\}")).globalMatch(sheet);
+    auto it = QRegularExpression(QStringLiteral("([^{}]+)\\{([^{}]*)\\}")).globalMatch(sheet);
     while (it.hasNext()) {
         const QRegularExpressionMatch m = it.next();
         QStringList declarations;
-        for (const QString &declaration : m.captured(2).split(QLatin1Char(';'))) {
-            if (declaration.trimmed().isEmpty())
-                continue;
-            const int colon = declaration.indexOf(QLatin1Char(':'));
-            declarations << declaration.left(colon).trimmed() + QStringLiteral(": ")
-                                + declaration.mid(colon + 1).simplified();
-        }
+        for (const QString &d : m.captured(2).split(QLatin1Char(';'), Qt::SkipEmptyParts))
+            if (const int colon = d.indexOf(QLatin1Char(':')); !d.trimmed().isEmpty())
+                declarations << d.left(colon).trimmed() + QStringLiteral(": ") + d.mid(colon + 1).simplified();
         out << m.captured(1).simplified() + QStringLiteral(" { ") + declarations.join(QStringLiteral("; "))
                    + QStringLiteral(" }");
     }
@@ -44,10 +38,7 @@ inline QStringList describeSheet(const QString &sheet)
 }
 
 // The colour a widget really shows at a point, as painted through its style sheet.
-inline QColor colourAt(QWidget *widget, const QPoint &at)
-{
-    return widget->grab().toImage().pixelColor(at);
-}
+inline QColor colourAt(QWidget *widget, const QPoint &at) { return widget->grab().toImage().pixelColor(at); }
 
 inline bool exposed(QWidget &window)
 {
@@ -86,9 +77,9 @@ inline void drag(QWidget *key)
     QTest::mouseRelease(key, Qt::LeftButton, Qt::NoModifier, start + QPoint(31, 0));
 }
 
-// Answers the next modal prompt while its exec() runs: what it showed is written to the log as
-// "prompt <title>|<text>|<answer keys>", then the named answer key is pressed with real mouse events
-// ("<close key>": the title bar's close key). A function given instead runs in place of an answer.
+// Answers the next modal prompt while its exec() runs: logs "prompt <title>|<text>|<answer keys>",
+// then presses the named key with real mouse events ("<close key>": the title bar's close key), or
+// runs the function given instead. What the dialog looked like stays behind in the fields.
 class PromptAnswerer
 {
 public:
@@ -97,31 +88,25 @@ public:
         timer.setInterval(5);
         QObject::connect(&timer, &QTimer::timeout, [this] { poll(); });
     }
-
     void answerWith(const QString &key, std::function<void(ContainerDialog *)> instead = {})
     {
         answer = key;
         action = std::move(instead);
-        seen = nullptr;
         timer.start();
     }
     void stop() { timer.stop(); }
 
-    // The dialog as it was seen open (gone again once the prompt is over).
-    QPointer<ContainerDialog> seen;
+    QPointer<ContainerDialog> seen;   // gone again once the prompt is over
     QWidget *seenParent = nullptr;
     QLabel *seenText = nullptr;
     Qt::Alignment textAlignment;
-    bool textWraps = false;
-    bool closeKeyShown = false;
+    bool textWraps = false, closeKeyShown = false;
 
     static ContainerDialog *openDialog()
     {
-        for (QWidget *w : QApplication::allWidgets()) {
-            auto *dialog = qobject_cast<ContainerDialog *>(w);
-            if (dialog && dialog->QWidget::isVisible())
+        for (QWidget *w : QApplication::allWidgets())
+            if (auto *dialog = qobject_cast<ContainerDialog *>(w); dialog && dialog->QWidget::isVisible())
                 return dialog;
-        }
         return nullptr;
     }
 
@@ -146,9 +131,8 @@ private:
             if (key->text() == answer)
                 target = key;
         }
-        log << QStringLiteral("prompt %1|%2|%3")
-                   .arg(dialog->windowTitle(), seenText ? seenText->text() : QStringLiteral("<no text>"),
-                        keys.join(QLatin1Char('/')));
+        const QString text = seenText ? seenText->text() : QStringLiteral("<no text>");
+        log << QStringLiteral("prompt %1|%2|%3").arg(dialog->windowTitle(), text, keys.join(QLatin1Char('/')));
         if (action)
             return action(dialog);
         if (!target || !target->isVisible()) {
@@ -197,10 +181,9 @@ struct PromptScreen
     // Taps the key with the answerer standing by; "<window closed>" closes the window instead of answering.
     void tapAndAnswer(QWidget *key, const QString &answer)
     {
-        if (answer == QLatin1String("<window closed>"))
-            answerer.answerWith(answer, [this](ContainerDialog *) { emit top->WindowClosed(); });
-        else
-            answerer.answerWith(answer);
+        const auto close = [this](ContainerDialog *) { emit top->WindowClosed(); };
+        answerer.answerWith(answer, answer == QLatin1String("<window closed>") ? close
+                                                                              : std::function<void(ContainerDialog *)>());
         QTest::mouseClick(key, Qt::LeftButton);
         answerer.stop();
     }

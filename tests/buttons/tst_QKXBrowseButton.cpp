@@ -1,13 +1,8 @@
 #define QTEST_QPA_MOUSE_HANDLING
-#include <QtTest>
-
-#include <QPushButton>
 
 #include "ButtonTestSupport.h"
-#include "GlobalImpl.h"
 #include "QKXBrowseButton.h"
 #include "QKXBrowseButtonEventFilter.h"
-#include "SystemModule.h"
 
 using namespace kxtest;
 
@@ -24,10 +19,7 @@ Q_SIGNALS:
     void cancelled();
 };
 
-SystemModule *screens()
-{
-    return GlobalImpl::getInstance()->systemModule();
-}
+SystemModule *screens() { return GlobalImpl::getInstance()->systemModule(); }
 
 // Two browse buttons on a screen, each with the host's filter and a host that grants every request;
 // what the filters submit lands in one log.
@@ -105,7 +97,6 @@ void tst_QKXBrowseButton::browserRoads()
 {
     QFETCH(QStringList, browserSays);
     QFETCH(QStringList, expected);
-
     Stage s;
     QVERIFY(exposed(s.screen));
     s.tap(0);
@@ -113,12 +104,8 @@ void tst_QKXBrowseButton::browserRoads()
 
     // Only the first answer after a granted tap counts.
     s.log.clear();
-    for (const QString &said : browserSays) {
-        if (said == QLatin1String("<cancel>"))
-            emit s.browser.cancelled();
-        else
-            emit s.browser.fileSelected(said);
-    }
+    for (const QString &said : browserSays)
+        said == QLatin1String("<cancel>") ? emit s.browser.cancelled() : emit s.browser.fileSelected(said);
     QCOMPARE(s.log, expected);
 
     // The next granted tap listens again.
@@ -160,20 +147,16 @@ void tst_QKXBrowseButton::withoutBrowser_data()
 {
     QTest::addColumn<bool>("plainScreen");
     QTest::addColumn<QString>("line");
-    QTest::newRow("none registered") << false
-                                     << "UserInterface - QKXBrowseButtonEventFilter::lockAcquired : no SimpleFileBrowser "
-                                        "screen; no file can be chosen.";
-    QTest::newRow("screen without signals") << true
-                                            << "UserInterface - QKXBrowseButtonEventFilter::lockAcquired : the "
-                                               "SimpleFileBrowser screen has no fileSelected(QString) or cancelled() "
-                                               "signal; no file can be chosen.";
+    const QString line = QStringLiteral("UserInterface - QKXBrowseButtonEventFilter::lockAcquired : ");
+    QTest::newRow("none registered") << false << line + "no SimpleFileBrowser screen; no file can be chosen.";
+    QTest::newRow("screen without signals")
+        << true << line + "the SimpleFileBrowser screen has no fileSelected(QString) or cancelled() signal; no file can be chosen.";
 }
 
 void tst_QKXBrowseButton::withoutBrowser()
 {
     QFETCH(bool, plainScreen);
     QFETCH(QString, line);
-
     DebugLines debug;
     Stage s;
     QWidget plain;

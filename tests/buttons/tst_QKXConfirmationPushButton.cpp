@@ -1,7 +1,4 @@
 #define QTEST_QPA_MOUSE_HANDLING
-#include <QtTest>
-
-#include <QPushButton>
 
 #include "ButtonTestSupport.h"
 #include "QKXConfirmationPushButton.h"
@@ -15,6 +12,7 @@ namespace {
 const QStringList Click{"clicked", "buttonPressed PushButton"};
 const QStringList Command{"request", "submit", "release"};
 const int Untouched = -99;   // a style the test leaves as the button starts
+const QString Line = QStringLiteral("UserInterface - QKXConfirmationPushButtonEventFilter::");
 
 // A confirmation button under the top container of a main window, with the host's filter and a host
 // that grants every lock request at once. Everything lands in one ordered log.
@@ -41,10 +39,7 @@ struct Stage : PromptScreen
     QPushButton *inner;
 };
 
-QString prompt(const QString &keys)
-{
-    return QStringLiteral("prompt Preset|Reset all settings?|") + keys;
-}
+QString prompt(const QString &keys) { return QStringLiteral("prompt Preset|Reset all settings?|") + keys; }
 
 } // namespace
 
@@ -57,8 +52,6 @@ private slots:
     void promptRoads();
     void noPrompt_data();
     void noPrompt();
-    void degradedPrompts_data();
-    void degradedPrompts();
     void filterOnPlainButton();
     void buttonGoneWhilePromptOpen();
 };
@@ -67,27 +60,41 @@ void tst_QKXConfirmationPushButton::promptRoads_data()
 {
     QTest::addColumn<int>("buttonStyle");
     QTest::addColumn<int>("promptStyle");
+    QTest::addColumn<QString>("screen");   // "" as hosts build it; else what is missing
     QTest::addColumn<QString>("answer");
     QTest::addColumn<QStringList>("expected");
+    QTest::addColumn<QString>("line");
 
+    const QStringList yes = QStringList{prompt("No/Yes")} + Command + Click;
     // A new button asks No/Yes on every tap.
-    QTest::newRow("new button, Yes") << Untouched << Untouched << "Yes" << QStringList{prompt("No/Yes")} + Command + Click;
-    QTest::newRow("Cancel/OK, Cancel") << 0 << 1 << "Cancel" << QStringList{prompt("Cancel/OK")} + Click;
-    QTest::newRow("notice never confirms") << 2 << 1 << "OK" << QStringList{prompt("OK")} + Click;
-    QTest::newRow("single OK confirms") << 3 << 1 << "OK" << QStringList{prompt("OK")} + Command + Click;
-    QTest::newRow("no prompt") << 1 << 0 << "" << Command + Click;
-    QTest::newRow("negative: prompt only") << 1 << -1 << "Yes" << QStringList{prompt("No/Yes")} + Click;
-    QTest::newRow("window closed") << 1 << 1 << "<window closed>" << QStringList{prompt("No/Yes")} + Click;
+    QTest::newRow("new button, Yes") << Untouched << Untouched << "" << "Yes" << yes << "";
+    QTest::newRow("Cancel/OK, Cancel") << 0 << 1 << "" << "Cancel" << QStringList{prompt("Cancel/OK")} + Click << "";
+    QTest::newRow("notice never confirms") << 2 << 1 << "" << "OK" << QStringList{prompt("OK")} + Click << "";
+    QTest::newRow("single OK confirms") << 3 << 1 << "" << "OK" << QStringList{prompt("OK")} + Command + Click << "";
+    QTest::newRow("no prompt") << 1 << 0 << "" << "" << Command + Click << "";
+    QTest::newRow("negative: prompt only") << 1 << -1 << "" << "Yes" << QStringList{prompt("No/Yes")} + Click << "";
+    QTest::newRow("window closed") << 1 << 1 << "" << "<window closed>" << QStringList{prompt("No/Yes")} + Click << "";
+    // No answer keys, but a way out: the title bar's close key, which does not confirm.
+    QTest::newRow("ButtonStyle without answers") << 4 << Untouched << "" << "<close key>" << QStringList{prompt("")} + Click
+        << Line + "displayPrompt : ButtonStyle 4 offers no answer; only closing the prompt ends it.";
+    QTest::newRow("no top container") << 1 << Untouched << "top" << "Yes" << yes
+        << Line + "displayDialog : no TopContainerObject above the widget; closing the window cannot cancel the prompt.";
+    // The prompt opens as a window of its own and still works.
+    QTest::newRow("no main window") << 1 << Untouched << "main" << "Yes" << yes
+        << Line + "displayDialog : no MainWindow screen; the prompt opens on its own.";
 }
 
 void tst_QKXConfirmationPushButton::promptRoads()
 {
     QFETCH(int, buttonStyle);
     QFETCH(int, promptStyle);
+    QFETCH(QString, screen);
     QFETCH(QString, answer);
     QFETCH(QStringList, expected);
+    QFETCH(QString, line);
 
-    Stage s;
+    DebugLines debug;
+    Stage s(screen != QLatin1String("main"), screen == QLatin1String("top") ? "Panel" : "TopContainerObject");
     QVERIFY(exposed(s.main));
     if (buttonStyle != Untouched)
         s.button->setButtonStyle(buttonStyle);
@@ -95,14 +102,13 @@ void tst_QKXConfirmationPushButton::promptRoads()
         s.button->setPromptStyle(promptStyle);
     s.tapAndAnswer(s.inner, answer);
     QCOMPARE(s.log, expected);
+    QCOMPARE(DebugLines::lines(), line.isEmpty() ? QStringList() : QStringList{line});
 
-    if (s.answerer.seenText) {
-        // Over the main window, question top left and wrapped; deleted once answered.
-        QCOMPARE(s.answerer.seenParent, &s.main);
-        QCOMPARE(s.answerer.textAlignment, Qt::Alignment(0x21));
-        QVERIFY(s.answerer.textWraps);
-        QVERIFY(!s.answerer.closeKeyShown);
-        QVERIFY(!s.answerer.seen);
+    if (s.answerer.seenText) {   // question top left and wrapped; the dialog is deleted once answered
+        QCOMPARE(s.answerer.seenParent, screen == QLatin1String("main") ? nullptr : &s.main);
+        QCOMPARE(s.answerer.closeKeyShown, buttonStyle == 4);
+        QCOMPARE(s.answerer.textAlignment, Qt::AlignLeft | Qt::AlignTop);
+        QVERIFY(s.answerer.textWraps && !s.answerer.seen);
     }
     QVERIFY(!PromptAnswerer::openDialog());
     QVERIFY(!s.inner->isDown());
@@ -121,63 +127,15 @@ void tst_QKXConfirmationPushButton::noPrompt()
     Stage s;
     QVERIFY(exposed(s.main));
     s.answerer.answerWith(QStringLiteral("Yes"));
-    if (guiLocked) {
-        qApp->setProperty("guilocked", true);
-        QTest::mouseClick(s.inner, Qt::LeftButton);
-        qApp->setProperty("guilocked", QVariant());
-    } else {
-        drag(s.inner);
-    }
+    qApp->setProperty("guilocked", guiLocked ? QVariant(true) : QVariant());
+    guiLocked ? QTest::mouseClick(s.inner, Qt::LeftButton) : drag(s.inner);
+    qApp->setProperty("guilocked", QVariant());
     s.answerer.stop();
     QCOMPARE(s.log.filter(QStringLiteral("prompt")) + s.log.filter(QStringLiteral("request")), QStringList());
     // A locked GUI swallows the release: no click, and the button does not stay held down.
     if (guiLocked)
         QCOMPARE(s.log, QStringList{"gui locked"});
     QVERIFY(!s.inner->isDown());
-}
-
-void tst_QKXConfirmationPushButton::degradedPrompts_data()
-{
-    QTest::addColumn<int>("buttonStyle");
-    QTest::addColumn<bool>("registerMain");
-    QTest::addColumn<QString>("topName");
-    QTest::addColumn<QString>("answer");
-    QTest::addColumn<QStringList>("expected");
-    QTest::addColumn<QString>("line");
-
-    const QString filter = QStringLiteral("UserInterface - QKXConfirmationPushButtonEventFilter::");
-    // No answer keys, but a way out: the title bar's close key, which does not confirm.
-    QTest::newRow("ButtonStyle without answers") << 4 << true << "TopContainerObject" << "<close key>"
-                                                 << QStringList{prompt("")} + Click
-                                                 << filter + "displayPrompt : ButtonStyle 4 offers no answer; only "
-                                                             "closing the prompt ends it.";
-    QTest::newRow("no top container") << 1 << true << "Panel" << "Yes" << QStringList{prompt("No/Yes")} + Command + Click
-                                      << filter + "displayDialog : no TopContainerObject above the widget; closing the "
-                                                  "window cannot cancel the prompt.";
-    // The prompt opens as a window of its own and still works.
-    QTest::newRow("no main window") << 1 << false << "TopContainerObject" << "Yes"
-                                    << QStringList{prompt("No/Yes")} + Command + Click
-                                    << filter + "displayDialog : no MainWindow screen; the prompt opens on its own.";
-}
-
-void tst_QKXConfirmationPushButton::degradedPrompts()
-{
-    QFETCH(int, buttonStyle);
-    QFETCH(bool, registerMain);
-    QFETCH(QString, topName);
-    QFETCH(QString, answer);
-    QFETCH(QStringList, expected);
-    QFETCH(QString, line);
-
-    DebugLines debug;
-    Stage s(registerMain, topName);
-    QVERIFY(exposed(s.main));
-    s.button->setButtonStyle(buttonStyle);
-    s.tapAndAnswer(s.inner, answer);
-    QCOMPARE(s.log, expected);
-    QCOMPARE(s.answerer.closeKeyShown, buttonStyle == 4);
-    QCOMPARE(s.answerer.seenParent, registerMain ? &s.main : nullptr);
-    QCOMPARE(DebugLines::lines(), QStringList{line});
 }
 
 void tst_QKXConfirmationPushButton::filterOnPlainButton()
@@ -195,10 +153,8 @@ void tst_QKXConfirmationPushButton::filterOnPlainButton()
     s.tapAndAnswer(plain->findChild<QPushButton *>(), QStringLiteral("Yes"));
     QCOMPARE(s.log, (QStringList{"prompt ||No/Yes", "request"}));
     QCOMPARE(DebugLines::lines(),
-             (QStringList{"UserInterface - QKXConfirmationPushButtonEventFilter::mouseReleaseEventFilter : "
-                          "QKXPushButton has no PromptStyle; prompting as PromptStyle 1.",
-                          "UserInterface - QKXConfirmationPushButtonEventFilter::displayPrompt : QKXPushButton has no "
-                          "buttonStyle(); asking No/Yes."}));
+             (QStringList{Line + "mouseReleaseEventFilter : QKXPushButton has no PromptStyle; prompting as PromptStyle 1.",
+                          Line + "displayPrompt : QKXPushButton has no buttonStyle(); asking No/Yes."}));
 }
 
 void tst_QKXConfirmationPushButton::buttonGoneWhilePromptOpen()

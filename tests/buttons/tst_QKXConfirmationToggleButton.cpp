@@ -1,8 +1,4 @@
 #define QTEST_QPA_MOUSE_HANDLING
-#include <QtTest>
-
-#include <QLabel>
-#include <QPushButton>
 
 #include "ButtonTestSupport.h"
 #include "QKXConfirmationToggleButton.h"
@@ -55,81 +51,57 @@ class tst_QKXConfirmationToggleButton : public QObject
 private slots:
     void promptRoads_data();
     void promptRoads();
-    void noPrompt_data();
-    void noPrompt();
 };
 
 void tst_QKXConfirmationToggleButton::promptRoads_data()
 {
     QTest::addColumn<int>("promptStyle");
-    QTest::addColumn<bool>("startOn");
+    QTest::addColumn<QString>("start");   // "on", "off", "locked" (on) or "gui locked" (on)
     QTest::addColumn<QString>("answer");
     QTest::addColumn<QStringList>("expected");
-    QTest::addColumn<QStringList>("debug");
+    QTest::addColumn<QString>("line");
 
-    const QStringList none;
-    QTest::newRow("0: no prompt") << 0 << false << "" << switched(true) << none;
-    QTest::newRow("1: turning on, Yes") << 1 << false << "Yes" << QStringList{Prompt} + switched(true) << none;
-    QTest::newRow("1: turning off needs no word") << 1 << true << "" << switched(false) << none;
-    QTest::newRow("2: turning off, Yes") << 2 << true << "Yes" << QStringList{Prompt} + switched(false) << none;
-    QTest::newRow("2: turning on needs no word") << 2 << false << "" << switched(true) << none;
-    QTest::newRow("3: off, No") << 3 << false << "No" << QStringList{Prompt} << none;
-    QTest::newRow("3: window closed") << 3 << false << "<window closed>" << QStringList{Prompt} << none;
-    QTest::newRow("negative: a notice") << -1 << false << "Yes" << QStringList{Prompt} << none;
-    QTest::newRow("unknown style asks both ways") << 9 << true << "Yes" << QStringList{Prompt} + switched(false)
-                                                  << QStringList{"UserInterface - QKXConfirmationToggleButtonEventFilter::"
-                                                                 "mouseReleaseEventFilter : PromptStyle 9 is none of 0 "
-                                                                 "to 3; confirming both ways."};
+    QTest::newRow("0: no prompt") << 0 << "off" << "" << switched(true) << "";
+    QTest::newRow("1: turning on, Yes") << 1 << "off" << "Yes" << QStringList{Prompt} + switched(true) << "";
+    QTest::newRow("1: turning off needs no word") << 1 << "on" << "" << switched(false) << "";
+    QTest::newRow("2: turning off, Yes") << 2 << "on" << "Yes" << QStringList{Prompt} + switched(false) << "";
+    QTest::newRow("2: turning on needs no word") << 2 << "off" << "" << switched(true) << "";
+    QTest::newRow("3: off, No") << 3 << "off" << "No" << QStringList{Prompt} << "";
+    QTest::newRow("3: locked") << 3 << "locked" << "Yes" << QStringList() << "";
+    QTest::newRow("3: gui locked") << 3 << "gui locked" << "Yes" << QStringList{"gui locked"} << "";
+    QTest::newRow("negative: a notice") << -1 << "off" << "Yes" << QStringList{Prompt} << "";
+    QTest::newRow("unknown style asks both ways") << 9 << "on" << "Yes" << QStringList{Prompt} + switched(false)
+        << "UserInterface - QKXConfirmationToggleButtonEventFilter::mouseReleaseEventFilter : PromptStyle 9 is none of 0 to 3; "
+           "confirming both ways.";
 }
 
 void tst_QKXConfirmationToggleButton::promptRoads()
 {
     QFETCH(int, promptStyle);
-    QFETCH(bool, startOn);
+    QFETCH(QString, start);
     QFETCH(QString, answer);
     QFETCH(QStringList, expected);
-    QFETCH(QStringList, debug);
-
+    QFETCH(QString, line);
     DebugLines lines;
     Stage s;
     QVERIFY(exposed(s.main));
+    const bool startOn = start != QLatin1String("off");
     s.toggle->setPromptStyle(promptStyle);
     s.toggle->setActiveState(startOn);
+    s.toggle->setLocked(start == QLatin1String("locked"));
+    qApp->setProperty("guilocked", start == QLatin1String("gui locked") ? QVariant(true) : QVariant());
     s.tapAndAnswer(s.inner, answer);
-    QCOMPARE(s.log, expected);
-    QCOMPARE(DebugLines::lines(), debug);
-    // Whatever the answer, the state only changes when the engine says so.
-    QCOMPARE(s.toggle->activeState(), startOn);
-    QCOMPARE(s.state->objectName(), expected.contains(QStringLiteral("request")) ? QStringLiteral("Loading")
-                                                                                 : startOn ? QStringLiteral("On")
-                                                                                           : QStringLiteral("Off"));
-    QVERIFY(!PromptAnswerer::openDialog());
-}
-
-void tst_QKXConfirmationToggleButton::noPrompt_data()
-{
-    QTest::addColumn<bool>("guiLocked");
-    QTest::addColumn<QStringList>("expected");
-    QTest::addColumn<QString>("look");
-    QTest::newRow("locked") << false << QStringList() << "Locked Locked-On";
-    QTest::newRow("gui locked") << true << QStringList{"gui locked"} << "On On";
-}
-
-void tst_QKXConfirmationToggleButton::noPrompt()
-{
-    QFETCH(bool, guiLocked);
-    QFETCH(QStringList, expected);
-    QFETCH(QString, look);
-    Stage s;
-    QVERIFY(exposed(s.main));
-    s.toggle->setPromptStyle(3);
-    s.toggle->setLocked(!guiLocked);
-    qApp->setProperty("guilocked", guiLocked ? QVariant(true) : QVariant());
-    s.tapAndAnswer(s.inner, QStringLiteral("Yes"));
     qApp->setProperty("guilocked", QVariant());
     QCOMPARE(s.log, expected);
+    QCOMPARE(DebugLines::lines(), line.isEmpty() ? QStringList() : QStringList{line});
+    // Whatever the answer, the state only changes when the engine says so.
+    QCOMPARE(s.toggle->activeState(), startOn);
+    const char *look = expected.contains(QStringLiteral("request")) ? "Loading Loading"
+                       : start == QLatin1String("locked")          ? "Locked Locked-On"
+                       : startOn                                   ? "On On" : "Off Off";
+    QCOMPARE(s.state->objectName() + QLatin1Char(' ') + s.state->text(), QString::fromLatin1(look));
+    QVERIFY(!PromptAnswerer::openDialog());
     QVERIFY(!s.inner->isDown());
-    QCOMPARE(s.state->objectName() + QLatin1Char(' ') + s.state->text(), look);
 }
 
 QTEST_MAIN(tst_QKXConfirmationToggleButton)

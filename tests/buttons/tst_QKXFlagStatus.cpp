@@ -1,7 +1,4 @@
-#include <QtTest>
-
 #include <QFrame>
-#include <QLabel>
 #include <QTimer>
 
 #include "ButtonTestSupport.h"
@@ -57,20 +54,17 @@ class tst_QKXFlagStatus : public QObject
     Q_OBJECT
 
 private slots:
-    void steadyLamp();
-    void blinking();
+    void steadyAndBlinking();
     void trippedColour_data();
     void trippedColour();
-    void lampIsPainted();
-    void captionAndSize();
+    void lampCaptionAndSize();
 };
 
-void tst_QKXFlagStatus::steadyLamp()
+void tst_QKXFlagStatus::steadyAndBlinking()
 {
     Lamp l;
     QVERIFY(l.base && l.led && l.timer);
     QCOMPARE(l.base->styleSheet(), Dark);
-
     QSignalSpy changed(l.flag, &QKXFlagStatus::valueChanged);
     l.flag->setValue(true);
     QCOMPARE(l.base->styleSheet(), Lit);
@@ -80,13 +74,9 @@ void tst_QKXFlagStatus::steadyLamp()
     l.flag->setValue(false);
     QCOMPARE(l.base->styleSheet(), Dark);
     QCOMPARE(QList<QVariantList>(changed), (QList<QVariantList>{{true}, {true}, {false}}));
-}
 
-void tst_QKXFlagStatus::blinking()
-{
-    Lamp l;
-    l.flag->setValue(true);
     // Blink mode switched on while set starts at once, lit for the first second.
+    l.flag->setValue(true);
     l.flag->setBlinkMode(true);
     QVERIFY(l.timer->isActive());
     QCOMPARE(l.timer->interval(), 1000);
@@ -139,7 +129,6 @@ void tst_QKXFlagStatus::trippedColour()
 {
     QFETCH(QString, colour);
     QFETCH(QString, kept);
-
     DebugLines debug;
     Lamp l;
     l.flag->setBlinkMode(true);
@@ -150,17 +139,13 @@ void tst_QKXFlagStatus::trippedColour()
     QCOMPARE(l.base->styleSheet(), Lit);
     const QString expected = kept.isEmpty() ? colour : kept;
     QCOMPARE(l.flag->getTrippedLedColor(), expected);
-    l.tick();
-    l.tick();
+    l.tick(), l.tick();
     QCOMPARE(l.base->styleSheet(), ledSheet(expected));
-    QCOMPARE(DebugLines::lines(),
-             kept.isEmpty() ? QStringList()
-                            : QStringList{QStringLiteral("UserInterface - QKXFlagStatus::setTrippedLedColor : \"%1\" is "
-                                                         "no colour; keeping #fc0.")
-                                              .arg(colour)});
+    const QString line = QStringLiteral("UserInterface - QKXFlagStatus::setTrippedLedColor : \"%1\" is no colour; keeping #fc0.");
+    QCOMPARE(DebugLines::lines(), kept.isEmpty() ? QStringList() : QStringList{line.arg(colour)});
 }
 
-void tst_QKXFlagStatus::lampIsPainted()
+void tst_QKXFlagStatus::lampCaptionAndSize()
 {
     // Set up before the screen is shown, then changed on screen: the sheet reaches the paint both times.
     Lamp l;
@@ -172,25 +157,19 @@ void tst_QKXFlagStatus::lampIsPainted()
     QCOMPARE(colourAt(l.led, centre), QColor(QStringLiteral("#e02020")));
     l.flag->setValue(false);
     QCOMPARE(colourAt(l.led, centre), QColor(QStringLiteral("#222")));
-}
 
-void tst_QKXFlagStatus::captionAndSize()
-{
-    Lamp l;
     auto *caption = l.flag->findChild<QLabel *>(QStringLiteral("Label"));
     WordTranslator german("Overload", "Übersteuerung");
     qApp->installTranslator(&german);
     // The host's caption is shown as given; the designer's label text is translated.
-    QVERIFY(QMetaObject::invokeMethod(l.flag, "updateFlagStatusLabel", Q_ARG(QString, QStringLiteral("Overload"))));
+    QVERIFY(QMetaObject::invokeMethod(l.flag, "updateFlagStatusLabel", Q_ARG(QString, "Overload")));
     QCOMPARE(caption->text(), QStringLiteral("Overload"));
     l.flag->setLabelText(QStringLiteral("Overload"));
     qApp->removeTranslator(&german);
     QCOMPARE(caption->text(), QString::fromUtf8("Übersteuerung"));
 
-    // One size only.
-    l.flag->changeSize(QStringLiteral("Max"));
-    QCOMPARE(l.flag->currentSize(), QStringLiteral("Min"));
-    QCOMPARE(l.base->styleSheet(), Dark);
+    l.flag->changeSize(QStringLiteral("Max"));   // one size only
+    QCOMPARE(l.flag->currentSize() + QLatin1Char('|') + l.base->styleSheet(), QStringLiteral("Min|") + Dark);
 }
 
 QTEST_MAIN(tst_QKXFlagStatus)

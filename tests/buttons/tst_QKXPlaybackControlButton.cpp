@@ -1,8 +1,6 @@
 #define QTEST_QPA_MOUSE_HANDLING
-#include <QtTest>
 
 #include <QHBoxLayout>
-#include <QPushButton>
 
 #include "ButtonTestSupport.h"
 #include "CSS.h"
@@ -18,10 +16,7 @@ const QString PlayOverlay = QStringLiteral("    QPushButton {        image: url(
 const QString StopOverlay = QStringLiteral("    QPushButton {        image: url(:/images/SymbolWhiteSquare.svg);     }");
 const QString UnknownLine = QStringLiteral("UserInterface - KXPlaybackControlButtonPrivate::updateStyle : Unknown button style.");
 
-QImage face(QKXPlaybackControlButton *button)
-{
-    return button->findChild<QPushButton *>()->grab().toImage();
-}
+QImage face(QKXPlaybackControlButton *button) { return button->findChild<QPushButton *>()->grab().toImage(); }
 
 } // namespace
 
@@ -30,25 +25,11 @@ class tst_QKXPlaybackControlButton : public QObject
     Q_OBJECT
 
 private slots:
-    void baseSheet();
     void buttonType_data();
     void buttonType();
     void symbolsArePainted();
-    void clicksIgnoreTheLock();
+    void sheetAndClicksIgnoreTheLock();
 };
-
-void tst_QKXPlaybackControlButton::baseSheet()
-{
-    QKXPlaybackControlButton b;
-    const QString gradient = QStringLiteral("qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 %1, stop:0.8 %2, stop:1 %3)")
-                                 .arg(CSS::gradientDark(), CSS::gradientMiddle(), CSS::gradientLight())
-                                 .simplified();
-    QCOMPARE(describeSheet(b.styleSheet()),
-             (QStringList{"QPushButton { background-color: " + gradient + "; color: white; border-style: solid; "
-                              "border-width: 2px; border-color: " + CSS::border().simplified() + "; border-radius: 15px; "
-                              "margin: 0px; min-height: 40px; max-height: 40px; min-width: 40px; max-width: 40px }",
-                          "QPushButton:pressed { color: white; background-color: " + CSS::gradientDark().simplified() + " }"}));
-}
 
 void tst_QKXPlaybackControlButton::buttonType_data()
 {
@@ -74,7 +55,6 @@ void tst_QKXPlaybackControlButton::buttonType()
     QFETCH(int, type);
     QFETCH(QString, overlay);
     QFETCH(QStringList, lines);
-
     DebugLines debug;
     const QString base = QKXPlaybackControlButton().styleSheet();
     QKXPlaybackControlButton b;
@@ -93,22 +73,17 @@ void tst_QKXPlaybackControlButton::symbolsArePainted()
     // A form sets the type before its screen is shown; the symbol must still be drawn.
     QWidget screen;
     screen.resize(200, 80);
-    auto *none = new QKXPlaybackControlButton(&screen);
-    auto *play = new QKXPlaybackControlButton(&screen);
-    auto *stop = new QKXPlaybackControlButton(&screen);
-    play->setButtonType(QKXPlaybackControlButton::play);
-    stop->setProperty("ButtonType", QStringLiteral("stop"));
     auto *row = new QHBoxLayout(&screen);
-    row->addWidget(none);
-    row->addWidget(play);
-    row->addWidget(stop);
+    QList<QKXPlaybackControlButton *> b;   // none, play, stop
+    for (int i = 0; i < 3; ++i)
+        row->addWidget((b << new QKXPlaybackControlButton(&screen)).last());
+    b[1]->setButtonType(QKXPlaybackControlButton::play);
+    b[2]->setProperty("ButtonType", QStringLiteral("stop"));
     row->addStretch(1);
     QVERIFY(exposed(screen));
 
-    const QImage plain = face(none);
-    const QImage triangle = face(play);
-    const QImage square = face(stop);
     // The whole key is on screen, 40 inside the 2-pixel border; the symbols are white on the gradient.
+    const QImage plain = face(b[0]), triangle = face(b[1]), square = face(b[2]);
     QCOMPARE(plain.size(), QSize(44, 44));
     QVERIFY(square != triangle);
     const QPoint centre(22, 22);
@@ -117,7 +92,7 @@ void tst_QKXPlaybackControlButton::symbolsArePainted()
     QVERIFY(plain.pixelColor(centre) != QColor(Qt::white));
 }
 
-void tst_QKXPlaybackControlButton::clicksIgnoreTheLock()
+void tst_QKXPlaybackControlButton::sheetAndClicksIgnoreTheLock()
 {
     QWidget screen;
     screen.resize(200, 60);
@@ -131,6 +106,13 @@ void tst_QKXPlaybackControlButton::clicksIgnoreTheLock()
     watchClicks(b, log);
     watchLock(filter, b, log, Refuse);
     const QString sheet = b->styleSheet();
+    const QString gradient = QStringLiteral("qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 %1, stop:0.8 %2, stop:1 %3)")
+                                 .arg(CSS::gradientDark(), CSS::gradientMiddle(), CSS::gradientLight()).simplified();
+    QCOMPARE(describeSheet(sheet),
+             (QStringList{"QPushButton { background-color: " + gradient + "; color: white; border-style: solid; "
+                              "border-width: 2px; border-color: " + CSS::border().simplified() + "; border-radius: 15px; "
+                              "margin: 0px; min-height: 40px; max-height: 40px; min-width: 40px; max-width: 40px }",
+                          "QPushButton:pressed { color: white; background-color: " + CSS::gradientDark().simplified() + " }"}));
     b->setLocked(true);
     QCOMPARE(b->styleSheet(), sheet);   // no locked look
     QTest::mouseClick(b->findChild<QPushButton *>(), Qt::LeftButton);

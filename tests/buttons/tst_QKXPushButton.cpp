@@ -1,15 +1,10 @@
 #define QTEST_QPA_MOUSE_HANDLING
-#include <QtTest>
-
-#include <QLabel>
-#include <QPushButton>
 
 #include "ButtonTestSupport.h"
 #include "CSS.h"
 #include "QKXPushButton.h"
 #include "QKXPushButtonEventFilter.h"
 #include "QKXRichTextPushButton.h"
-#include "QKXUtil.h"
 
 using namespace kxtest;
 
@@ -47,40 +42,20 @@ class tst_QKXPushButton : public QObject
     Q_OBJECT
 
 private slots:
-    void labelTextIsTranslated();
     void styleSheetAndLockLabel();
     void tapEndToEnd_data();
     void tapEndToEnd();
     void richTextButton();
 };
 
-void tst_QKXPushButton::labelTextIsTranslated()
-{
-    QKXPushButton b;
-    auto *inner = b.findChild<QPushButton *>(QStringLiteral("PushButton"));
-    WordTranslator german("Preset", "Voreinstellung");
-    qApp->installTranslator(&german);
-    QVERIFY(b.setProperty("LabelText", QStringLiteral("Preset")));
-    qApp->removeTranslator(&german);
-    // Shown translated, kept as written for the host.
-    QCOMPARE(inner->text(), QStringLiteral("Voreinstellung"));
-    QCOMPARE(b.property("LabelText").toString(), QStringLiteral("Preset"));
-}
-
 void tst_QKXPushButton::styleSheetAndLockLabel()
 {
     QKXPushButton b;
-    auto *lock = b.findChild<QPushButton *>(QStringLiteral("PushButton"))->findChild<QLabel *>();
+    auto *inner = b.findChild<QPushButton *>(QStringLiteral("PushButton"));
+    auto *lock = inner->findChild<QLabel *>();
     const QString sheet = b.styleSheet();
-
-    // The fragments the host's palette splices in, exactly.
     const QString gradient = QStringLiteral("qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 %1, stop:0.8 %2, stop:1 %3)")
                                  .arg(CSS::gradientDark(), CSS::gradientMiddle(), CSS::gradientLight());
-    const QString lockedBorder = QStringLiteral("1px solid ") + CSS::border();
-    QVERIFY2(sheet.contains(gradient), qPrintable(sheet));
-    QVERIFY2(sheet.contains(lockedBorder), qPrintable(sheet));
-    QVERIFY2(sheet.contains(QStringLiteral("bold 16 px")), qPrintable(sheet));
-
     QCOMPARE(describeSheet(sheet),
              (QStringList{"QPushButton { background-color: " + gradient.simplified() + "; color: white; "
                               "border-style: solid; border-width: 2px; border-color: " + CSS::border().simplified()
@@ -90,20 +65,24 @@ void tst_QKXPushButton::styleSheetAndLockLabel()
                           "QLabel { color: white; background-color: " + CSS::highlight().simplified() + "; "
                               "border-radius: 7px; padding: 0px; min-height: 14px; max-height: 14px; "
                               "margin: 17px 0px 0px 0px; font: bold 16 px }",
-                          "QLabel#Locked { border: " + lockedBorder.simplified() + "; background-color: #666666 }"}));
+                          "QLabel#Locked { border: 1px solid " + CSS::border().simplified() + "; background-color: #666666 }"}));
 
     // One sheet for both sizes; locking only renames the label, which picks the sheet's locked rule.
     b.changeSize(QStringLiteral("Max"));
-    QCOMPARE(b.currentSize(), QStringLiteral("Max"));
-    QCOMPARE(b.styleSheet(), sheet);
     b.setReadOnly(true);
     b.setLocked(true);
+    QCOMPARE(b.currentSize() + QLatin1Char('|') + b.styleSheet(), QStringLiteral("Max|") + sheet);
     QCOMPARE(lock->text() + QLatin1Char('|') + lock->objectName(), QStringLiteral("Locked  |Locked"));
-    b.changeSize(QStringLiteral("Min"));
-    QCOMPARE(b.currentSize(), QStringLiteral("Min"));
-    QCOMPARE(b.styleSheet(), sheet);
     b.setLocked(false);
     QCOMPARE(lock->text() + QLatin1Char('|') + lock->objectName(), QStringLiteral("|"));
+
+    // Shown translated, kept as written for the host.
+    WordTranslator german("Preset", "Voreinstellung");
+    qApp->installTranslator(&german);
+    QVERIFY(b.setProperty("LabelText", QStringLiteral("Preset")));
+    qApp->removeTranslator(&german);
+    QCOMPARE(inner->text(), QStringLiteral("Voreinstellung"));
+    QCOMPARE(b.property("LabelText").toString(), QStringLiteral("Preset"));
 }
 
 void tst_QKXPushButton::tapEndToEnd_data()
@@ -112,7 +91,6 @@ void tst_QKXPushButton::tapEndToEnd_data()
     QTest::addColumn<bool>("renamed");
     QTest::addColumn<QStringList>("expected");
 
-    QTest::newRow("unlocked") << QList<bool>() << false << QStringList{"clicked", "buttonPressed PushButton"};
     QTest::newRow("renamed by the host") << QList<bool>() << true << QStringList{"clicked", "buttonPressed RFOnButton"};
     // Locked, the filter still asks; only the widget's own signals stay quiet.
     QTest::newRow("locked") << QList<bool>{true} << false << QStringList();
@@ -125,9 +103,7 @@ void tst_QKXPushButton::tapEndToEnd()
     QFETCH(QList<bool>, lockSteps);
     QFETCH(bool, renamed);
     QFETCH(QStringList, expected);
-
     Stage s;
-    QVERIFY(s.inner);
     QVERIFY(exposed(s.screen));
     if (renamed) {
         QVERIFY(QMetaObject::invokeMethod(s.button, "setButtonName", Q_ARG(QString, QStringLiteral("RFOnButton"))));
@@ -135,7 +111,6 @@ void tst_QKXPushButton::tapEndToEnd()
     }
     for (bool locked : lockSteps)
         s.button->setLocked(locked);
-
     QTest::mouseClick(s.inner, Qt::LeftButton);
     // The filter sees the release before the button turns it into a click; only the widget's own
     // pair has a fixed order.
@@ -155,10 +130,6 @@ void tst_QKXPushButton::tapEndToEnd()
 void tst_QKXPushButton::richTextButton()
 {
     const QString raw = QStringLiteral("  Power\\ndBm^2 ");
-    QString shown = raw;
-    QKXUtil::processString(shown);
-    QVERIFY(shown != raw);
-
     QWidget screen;
     screen.resize(200, 100);
     auto *b = new QKXRichTextPushButton(raw, &screen);
@@ -167,7 +138,7 @@ void tst_QKXPushButton::richTextButton()
     QVERIFY(label);
     // The raw text stays with the button; the label shows it marked up, and the button paints none.
     QCOMPARE(b->text(), raw);
-    QCOMPARE(label->text(), shown);
+    QCOMPARE(label->text(), QStringLiteral("Power<br>dBm<sup>2</sup>"));
     QCOMPARE(static_cast<QAbstractButton *>(b)->text(), QString());
     QCOMPARE(label->textFormat(), Qt::RichText);
 

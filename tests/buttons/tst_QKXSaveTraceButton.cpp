@@ -1,8 +1,4 @@
 #define QTEST_QPA_MOUSE_HANDLING
-#include <QtTest>
-
-#include <QLabel>
-#include <QPushButton>
 
 #include "ButtonTestSupport.h"
 #include "QKXPushButtonEventFilter.h"

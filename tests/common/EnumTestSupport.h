@@ -1,9 +1,8 @@
 #ifndef ENUMTESTSUPPORT_H
 #define ENUMTESTSUPPORT_H
 
-// What the tests of the enumerated widgets and their popups share: records built from pairs, a screen
-// with a widget and its popup, and a stand-in host that answers lock requests, opens popups and carries
-// submitted values back the way the front panel does, writing everything into one ordered log.
+// Shared by the tests of the enumerated widgets and their popups: records, a screen with a widget and its
+// popup, and a stand-in host that answers as the front panel does, writing everything into one ordered log.
 
 #include "KXTestSupport.h"
 
@@ -18,7 +17,6 @@
 
 namespace kxtest {
 
-// A record from value/literal pairs, in the order given.
 inline QVariant record(const QList<QPair<int, QString>> &entries)
 {
     QVariantList list;
@@ -36,7 +34,22 @@ inline QVariant longRecord(int n)
     return record(entries);
 }
 
-// The debug lines caught so far, which are then forgotten.
+// Plays steps on an enumerated widget: a number becomes its value, a text its literal, a list its
+// record. False if the widget refused one.
+inline bool replay(QObject *widget, const QVariantList &steps)
+{
+    bool ok = true;
+    for (const QVariant &step : steps) {
+        if (step.type() == QVariant::Int)
+            ok &= QMetaObject::invokeMethod(widget, "setIndex", Q_ARG(int, step.toInt()));
+        else if (step.type() == QVariant::String)
+            ok &= widget->setProperty("Text", step);
+        else
+            ok &= QMetaObject::invokeMethod(widget, "setMetaData", Q_ARG(QVariant, step));
+    }
+    return ok;
+}
+
 inline QStringList takeLines()
 {
     const QStringList out = DebugLines::lines();
@@ -44,7 +57,6 @@ inline QStringList takeLines()
     return out;
 }
 
-// The first arguments of the signals a spy caught, as numbers.
 inline QList<int> firstInts(const QSignalSpy &spy)
 {
     QList<int> out;
@@ -53,13 +65,11 @@ inline QList<int> firstInts(const QSignalSpy &spy)
     return out;
 }
 
-// Sets an application property for the life of the object.
 class AppProperty
 {
 public:
     AppProperty(const char *name, const QVariant &value) : name(name) { qApp->setProperty(name, value); }
     ~AppProperty() { qApp->setProperty(name, QVariant()); }
-
 private:
     const char *name;
 };
@@ -78,20 +88,18 @@ struct PopupStage
         popup = new Popup(&screen);
         screen.show();
     }
-    bool ready()
-    {
-        return QTest::qWaitForWindowExposed(&screen) && QTest::qWaitFor([this] { return filter->isMachineStarted(); });
-    }
+    bool ready() { return QTest::qWaitForWindowExposed(&screen) && QTest::qWaitFor([this] { return filter->isMachineStarted(); }); }
     QLabel *field() const { return widget->template findChild<QLabel *>(QStringLiteral("ComboText")); }
     int fieldTop() const { return field()->mapTo(const_cast<QWidget *>(&screen), QPoint()).y(); }
     QKXComboListItem *item(int row) const { return popup->shownItems().value(row); }
     QPoint centreOf(QWidget *w) const { return w->mapTo(const_cast<QWidget *>(&screen), w->rect().center()); }
-    void open(int current)
+    void open(int current) { widget->setIndex(current); popup->registerWidget(filter, widget); }
+    void swipe(const QPoint &from, const QPoint &to)
     {
-        widget->setIndex(current);
-        popup->registerWidget(filter, widget);
+        QTest::mousePress(&screen, Qt::LeftButton, Qt::NoModifier, from);
+        QTest::mouseMove(&screen, to);
+        QTest::mouseRelease(&screen, Qt::LeftButton, Qt::NoModifier, to);
     }
-
     QWidget screen;
     Widget *widget;
     QKXComboEventFilter *filter;
@@ -104,8 +112,7 @@ class HostDouble
 {
 public:
     template <typename Filter>
-    HostDouble(Filter *filter, QWidget *widget, QObject *popup, QStringList &log)
-        : log(log)
+    HostDouble(Filter *filter, QWidget *widget, QObject *popup, QStringList &log) : log(log)
     {
         QObject::connect(filter, &QKXEventFilterBase::attemptSetLock, &context, [this, filter](QWidget *w, bool locked) {
             this->log << QString(locked ? QStringLiteral("lock requested") : QStringLiteral("lock released"));
@@ -118,11 +125,9 @@ public:
                 QMetaObject::invokeMethod(popup, "registerWidget", Q_ARG(QObject *, f), Q_ARG(QWidget *, w));
         });
         QObject::connect(filter, &QKXEventFilterBase::editEnd, &context, [this] { this->log << QStringLiteral("editEnd"); });
-        QObject::connect(filter, &QKXEventFilterBase::showGuiLockedMessage, &context,
-                         [this] { this->log << QStringLiteral("gui locked"); });
+        QObject::connect(filter, &QKXEventFilterBase::showGuiLockedMessage, &context, [this] { this->log << QStringLiteral("gui locked"); });
         QObject::connect(filter, &Filter::submit, &context, [this, widget](int value) {
             this->log << QStringLiteral("submit %1").arg(value);
-            // The engine confirms the value it took.
             QMetaObject::invokeMethod(widget, "setIndex", Q_ARG(int, value));
         });
         if (auto *combo = qobject_cast<QKXComboBox *>(widget))
@@ -133,9 +138,7 @@ public:
             QObject::connect(list, &QKXComboBoxList::WindowClosed, &context, [this] { this->log << QStringLiteral("WindowClosed"); });
         }
     }
-
     bool grant = true;
-
 private:
     QStringList &log;
     QObject context;   // the connections end with the host

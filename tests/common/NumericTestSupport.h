@@ -1,12 +1,13 @@
 #ifndef NUMERICTESTSUPPORT_H
 #define NUMERICTESTSUPPORT_H
 
-// What the tests of numeric entry share: engine adapters that hand out a current value, and one
-// ordered log of everything a filter emits.
+// What the tests of numeric entry share: engine adapters that hand out a current value, one ordered
+// log of everything a filter emits, and real units strings of the value library.
 
 #include <QtTest>
 
 #include <QLineEdit>
+#include <QStringList>
 
 #include "KXTestSupport.h"
 
@@ -46,6 +47,15 @@ inline void logFilter(QKXNumericEventFilter *filter, QStringList &log)
         log << (locked ? QStringLiteral("lock") : QStringLiteral("release"));
     });
 }
+
+inline QString hertz() { return QStringLiteral("0,0,1:1;0:0;0:0;0:0;0:0"); }
+inline QString kilohertz() { return QStringLiteral("0,3,1:1;0:0;0:0;0:0;0:0"); }
+inline QString megahertz() { return QStringLiteral("0,6,1:1;0:0;0:0;0:0;0:0"); }
+inline QString seconds() { return QStringLiteral("0,0,2:1;0:0;0:0;0:0;0:0"); }
+inline QString dBm() { return QStringLiteral("0,0,14:1;0:0;0:0;0:0;0:0"); }
+inline QString neutralUnits() { return QStringLiteral("0,0,0:0;0:0;0:0;0:0;0:0"); }
+// Hz|kHz|MHz, the list of a frequency field.
+inline QString frequencyUnits() { return QStringList{hertz(), kilohertz(), megahertz()}.join(QLatin1Char('|')); }
 
 } // namespace kxtest
 

@@ -1,9 +1,9 @@
 #ifndef EDITORTESTSUPPORT_H
 #define EDITORTESTSUPPORT_H
 
-// A screen the way the host builds one for a numeric edit: a main window with a numeric field and its
-// filter, the numeric pad floating over the window, and the host's side of the protocol (the pad opens
-// on editStart; the edit lock is granted from the event loop, as the host's lock owner does).
+// A screen the way the host builds one for a numeric edit: a main window with a field and its filter,
+// the numeric pad floating over the window, and the host's side of the protocol (the pad opens on
+// editStart; the edit lock is granted from the event loop, as the host's lock owner does).
 
 #include <QtTest>
 
@@ -14,7 +14,11 @@
 
 #include "QKXNumeric.h"
 #include "QKXNumericEventFilter.h"
+#include "QKXNumericValueObj.h"
+#include "QKXNumericValueObjEventFilter.h"
 #include "QKXNumpad.h"
+#include "QKXRichTextPushButton.h"
+#include "ValueHelper.h"
 
 #include "../common/NumericTestSupport.h"
 
@@ -27,7 +31,7 @@ public:
     QPointer<QWidget> holder;
     QStringList requests;
 
-    void attach(QKXNumericEventFilter *filter)
+    void attach(QKXEditStateFilter *filter)
     {
         connect(filter, &QKXEventFilterBase::attemptSetLock, this, [this, filter](QWidget *widget, bool locked) {
             if (!locked) {
@@ -44,23 +48,22 @@ public:
     }
 };
 
-struct Screen
+template <typename Field, typename Filter>
+struct PadScreen
 {
-    explicit Screen(const QString &dataType = QStringLiteral("Int"))
+    PadScreen(const char *name, int width)
     {
         window.resize(800, 480);
         window.setObjectName(QStringLiteral("MainWindow"));
-        field = new QKXNumeric(&window);
-        field->setObjectName(QStringLiteral("Channel"));
-        field->setGeometry(40, 40, 200, 60);
-        QObject *adapter = dataType == QLatin1String("Double") ? static_cast<QObject *>(&doubleAdapter)
-                                                               : static_cast<QObject *>(&intAdapter);
-        filter = new QKXNumericEventFilter(field, dataType, adapter);
+        field->setObjectName(QLatin1String(name));
+        field->setGeometry(40, 40, width, 60);
+    }
+    void install(Filter *installed)
+    {
+        filter = installed;
         field->installEventFilter(filter);
         lockOwner.attach(filter);
-        pad = new QKXNumpad(&window);
         QObject::connect(filter, &QKXEventFilterBase::editStart, pad, &QKXNumpad::registerWidget);
-        entry = field->findChild<QLineEdit *>();
     }
     bool show()
     {
@@ -79,22 +82,88 @@ struct Screen
         tap();
         return QTest::qWaitFor([this] { return pad->isVisible() && filter->isEditing(); });
     }
-    void press(const QString &key)
+    void click(QPushButton *key)
     {
-        QPushButton *button = pad->button(key);
-        QVERIFY2(button && button->isVisible(), qPrintable(key));
-        QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, button->rect().center());
+        QVERIFY2(key && key->isVisible() && key->isEnabled(), key ? qPrintable(key->objectName()) : "no key");
+        QTest::mouseClick(key, Qt::LeftButton, Qt::NoModifier, key->rect().center());
     }
+    void press(const QString &key) { click(pad->button(key)); }
 
     // The engine's side outlives the window, whose filter reports to it while going.
     LockOwner lockOwner;
     IntAdapter intAdapter{0};
     DoubleAdapter doubleAdapter{0.0};
+    QStringList road;
     QWidget window;
-    QKXNumeric *field;
-    QLineEdit *entry;
-    QKXNumericEventFilter *filter;
-    QKXNumpad *pad;
+    Field *field = new Field(&window);
+    QLineEdit *entry = field->template findChild<QLineEdit *>();
+    Filter *filter = nullptr;
+    QKXNumpad *pad = new QKXNumpad(&window);
+};
+
+struct Screen : PadScreen<QKXNumeric, QKXNumericEventFilter>
+{
+    explicit Screen(const QString &dataType = QStringLiteral("Int")) : PadScreen("Channel", 200)
+    {
+        install(new QKXNumericEventFilter(field, dataType, dataType == QLatin1String("Double")
+                                              ? static_cast<QObject *>(&doubleAdapter) : &intAdapter));
+        logFilter(filter, road);
+    }
+};
+
+// A frequency field: the engine keeps hertz (1 MHz to begin with), takes every submit and answers later
+// with setValue(value, Hz); the field shows MHz and offers Hz, kHz and MHz.
+struct UnitScreen : PadScreen<QKXNumericValueObj, QKXNumericValueObjEventFilter>
+{
+    explicit UnitScreen(const QString &dataType = QStringLiteral("ValueDouble")) : PadScreen("GeneratorFrequency", 220)
+    {
+        doubleAdapter.current = 1.0e6;
+        intAdapter.current = 1000000;
+        field->setPrecision(3);
+        field->setBaseUnit(hertz());
+        field->setDefaultUnit(2);
+        field->setUnitListString(frequencyUnits());
+        field->setValue(doubleAdapter.current, hertz());
+        install(new QKXNumericValueObjEventFilter(field, dataType, nullptr, dataType == QLatin1String("ValueLong")
+                                                      ? static_cast<QObject *>(&intAdapter) : &doubleAdapter));
+        QObject::connect(filter, &QKXEventFilterBase::attemptSetLock,
+                         [this](QWidget *, bool locked) { road << (locked ? "lock" : "release"); });
+        QObject::connect(filter, &QKXEventFilterBase::editStart, [this] { road << "editStart"; });
+        QObject::connect(filter, &QKXEventFilterBase::editEnd, [this] { road << "editEnd"; });
+        QObject::connect(filter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit),
+                         [this](double value, const QString &unit) {
+                             road << QStringLiteral("submit %1 %2").arg(value).arg(unitText(unit));
+                             // The neutral string means the value is in the base unit already.
+                             const double hz = unit == neutralUnits() ? value
+                                 : ValueHelper::convertValue(value, ValueHelper::convertToUnits(unit),
+                                                             ValueHelper::convertToUnits(hertz()));
+                             QTimer::singleShot(0, field, [this, hz] {
+                                 doubleAdapter.current = hz;
+                                 road << QStringLiteral("engine %1 Hz").arg(hz);
+                                 field->setValue(hz, hertz());
+                             });
+                         });
+        QObject::connect(filter, QOverload<int, QString>::of(&QKXNumericValueObjEventFilter::submit),
+                         [this](int v, const QString &u) { road << QStringLiteral("submit int %1 %2").arg(v).arg(unitText(u)); });
+        QObject::connect(field, QOverload<double, QString>::of(&QKXNumericValueObj::valueChanged),
+                         [this](double v, const QString &u) { road << QStringLiteral("setValue %1 %2").arg(v).arg(unitText(u)); });
+    }
+    static QString unitText(const QString &unit)
+    {
+        return unit == neutralUnits() ? QStringLiteral("(neutral)")
+                                      : ValueHelper::getUnitString(ValueHelper::convertToUnits(unit));
+    }
+    // The shown unit keys as "caption/objectName".
+    QStringList unitKeys() const
+    {
+        QStringList keys;
+        for (int i = 0; i < 4; ++i) {
+            auto *key = qobject_cast<QKXRichTextPushButton *>(pad->unitButton(i));
+            if (key && key->isVisible())
+                keys << key->text() + QLatin1Char('/') + key->objectName();
+        }
+        return keys;
+    }
 };
 
 } // namespace kxtest

@@ -18,17 +18,13 @@ private slots:
 
 void tst_NumericEntryRoad::hexChannelCommittedWithEnter()
 {
-    QStringList road;
     Screen screen(QStringLiteral("Int"));
-    kxtest::logFilter(screen.filter, road);
     screen.field->setBaseType(QKXNumeric::HEX);
     screen.field->setUpperLimit(0xFFF);
     screen.intAdapter.current = 0x2A;
     screen.field->setValue(0x2A);
-    QSignalSpy asInt(screen.filter, QOverload<int>::of(&QKXNumericEventFilter::submit));
-    QSignalSpy asDouble(screen.filter, QOverload<double>::of(&QKXNumericEventFilter::submit));
     QVERIFY(screen.show());
-    road.clear();
+    screen.road.clear();
 
     screen.tap();
     QCOMPARE(screen.lockOwner.requests, QStringList({"Channel"}));
@@ -44,32 +40,28 @@ void tst_NumericEntryRoad::hexChannelCommittedWithEnter()
     QCOMPARE(screen.pad->display()->text(), QStringLiteral("1C"));
     screen.press(QStringLiteral("hexEnter"));
 
-    QCOMPARE(road, QStringList({"lock", "editStart", "int 28", "editEnd", "release"}));
-    QCOMPARE(asInt.count(), 1);
-    QCOMPARE(asInt.at(0).at(0).toInt(), 28);
-    QCOMPARE(asDouble.count(), 0);
+    // The int form only.
+    QCOMPARE(screen.road, QStringList({"lock", "editStart", "int 28", "editEnd", "release"}));
     QVERIFY(!screen.filter->isEditing());
     QVERIFY(!screen.lockOwner.holder);
     QVERIFY(!screen.pad->isVisible());
     QVERIFY(!screen.entry->isEnabled());
 
     // The engine confirms; the field shows its value in its base.
-    screen.field->setValue(asInt.at(0).at(0).toInt());
+    screen.field->setValue(28);
     QCOMPARE(screen.entry->text(), QStringLiteral("1C"));
 }
 
 void tst_NumericEntryRoad::levelCancelled()
 {
-    QStringList road;
     Screen screen(QStringLiteral("Double"));
-    kxtest::logFilter(screen.filter, road);
     screen.field->setPrecision(1);
     screen.field->setLowerLimit(-40.0);
     screen.field->setUpperLimit(10.0);
     screen.doubleAdapter.current = -12.5;
     screen.field->setValue(-12.5);
     QVERIFY(screen.show());
-    road.clear();
+    screen.road.clear();
 
     screen.tap();
     QVERIFY(QTest::qWaitFor([&] { return screen.pad->isVisible() && screen.filter->isEditing(); }));
@@ -80,7 +72,7 @@ void tst_NumericEntryRoad::levelCancelled()
     QCOMPARE(screen.entry->text(), QStringLiteral("-3.5"));
     screen.press(QStringLiteral("cancel"));
 
-    QCOMPARE(road, QStringList({"lock", "editStart", "double -12.5", "editEnd", "release"}));
+    QCOMPARE(screen.road, QStringList({"lock", "editStart", "double -12.5", "editEnd", "release"}));
     QVERIFY(!screen.filter->isEditing());
     QVERIFY(!screen.lockOwner.holder);
     QVERIFY(!screen.pad->isVisible());

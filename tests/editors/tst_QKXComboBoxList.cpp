@@ -2,7 +2,6 @@
 #define QTEST_QPA_MOUSE_HANDLING
 #include <QtTest>
 
-#include <QElapsedTimer>
 #include <QLabel>
 
 #include "../common/EnumTestSupport.h"
@@ -15,7 +14,6 @@ using kxtest::record;
 
 namespace {
 
-// A screen with one combo box and the list popup floating over it, as the front panel has them.
 struct Stage : kxtest::PopupStage<QKXComboBox, QKXComboBoxList>
 {
     explicit Stage(const QRect &at = QRect(100, 200, 160, 60), int screenWidth = 800) : PopupStage(at, screenWidth) {}
@@ -35,17 +33,15 @@ QStringList namesAndTexts(const QKXComboPopup *popup)
 class tst_QKXComboBoxList : public QObject
 {
     Q_OBJECT
-
 private slots:
     void looks();
     void placement_data();
     void placement();
     void drags_data();
     void drags();
-    void reopeningShowsTheNewRecord();
     void tapsEndToEnd();
     void popupsRefuseWidgetsTheyCannotEdit();
-    void thousandsOfEntries();
+    void thousandsOfEntriesAndReopening();
 };
 
 void tst_QKXComboBoxList::looks()
@@ -59,7 +55,6 @@ void tst_QKXComboBoxList::looks()
     QCOMPARE(s.popup->styleSheet(), QStringLiteral("QFrame#cancelFrame {\tbackground-color: transparent;}"));
     QCOMPARE(s.popup->geometry(), s.screen.rect());
     QCOMPARE(s.column()->objectName(), QStringLiteral("listFrame"));
-
     const QString expected = QStringLiteral(
         "QFrame#listFrame { border: 0px solid white; border-radius: 10px; min-width: 140px; margin: 0px; "
         "background-color: %1; } "
@@ -69,7 +64,6 @@ void tst_QKXComboBoxList::looks()
         "QPushButton#lastPushButton { border-bottom: none; } "
         "QPushButton:pressed { color: #000; }").arg(CSS::accentRGBA());
     QCOMPARE(s.column()->styleSheet().simplified(), expected);
-
     QCOMPARE(s.column()->height(), 3 * QKXComboListItem::RowPitch);
     // The items show the literals translated and processed, except in the compact display modes.
     QString processed = QStringLiteral("dBm^2");
@@ -92,19 +86,14 @@ void tst_QKXComboBoxList::placement_data()
     QTest::addColumn<int>("x");
     QTest::addColumn<int>("width");
     QTest::addColumn<QString>("y");   // "field-<n>": n pixels above the field's top; otherwise absolute
-
-    QTest::newRow("right of the widget, row 3 level with the field") << QRect(100, 200, 160, 60) << 800 << 8 << 30
-                                                                     << 260 << 140 << "field-126";
-    QTest::newRow("value without a row puts row 0 level") << QRect(100, 60, 160, 60) << 800 << 8 << 35 << 260 << 140
-                                                          << "field-0";
+    QTest::newRow("right of the widget, row 3 level with the field") << QRect(100, 200, 160, 60) << 800 << 8 << 30 << 260 << 140 << "field-126";
+    QTest::newRow("value without a row puts row 0 level") << QRect(100, 60, 160, 60) << 800 << 8 << 35 << 260 << 140 << "field-0";
     QTest::newRow("right edge exactly reached") << QRect(500, 60, 160, 60) << 800 << 8 << 0 << 660 << 140 << "field-0";
     QTest::newRow("one pixel too wide: on the left") << QRect(501, 60, 160, 60) << 800 << 8 << 0 << 361 << 140 << "field-0";
-    QTest::newRow("no room on either side: over the widget, as wide") << QRect(40, 60, 220, 60) << 300 << 8 << 0 << 40
-                                                                      << 220 << "field-0";
+    QTest::newRow("no room on either side: over the widget, as wide") << QRect(40, 60, 220, 60) << 300 << 8 << 0 << 40 << 220 << "field-0";
     QTest::newRow("kept below the top") << QRect(100, 20, 160, 60) << 800 << 8 << 70 << 260 << 140 << "0";
     QTest::newRow("kept above the bottom") << QRect(100, 400, 160, 60) << 800 << 8 << 0 << 260 << 140 << "144";
-    QTest::newRow("taller than the screen starts at the top") << QRect(100, 200, 160, 60) << 800 << 20 << 100 << 260
-                                                               << 140 << "0";
+    QTest::newRow("taller than the screen starts at the top") << QRect(100, 200, 160, 60) << 800 << 20 << 100 << 260 << 140 << "0";
 }
 
 void tst_QKXComboBoxList::placement()
@@ -116,12 +105,10 @@ void tst_QKXComboBoxList::placement()
     QFETCH(int, x);
     QFETCH(int, width);
     QFETCH(QString, y);
-
     Stage s(comboRect, screenWidth);
     QVERIFY(s.ready());
     s.widget->setMetaData(kxtest::longRecord(entries));
     s.open(current);
-
     QVERIFY(s.popup->isVisible());
     QCOMPARE(s.column()->geometry(), QRect(x, y.startsWith(QLatin1String("field-")) ? s.fieldTop() - y.mid(6).toInt() : y.toInt(),
                                            width, entries * QKXComboListItem::RowPitch));
@@ -132,7 +119,6 @@ void tst_QKXComboBoxList::drags_data()
     QTest::addColumn<QPoint>("travel");
     QTest::addColumn<bool>("picks");
     QTest::addColumn<int>("columnMoves");
-
     // The column starts with row 3 level with the field: 126 pixels of column above it, 210 below.
     QTest::newRow("30 pixels still taps") << QPoint(10, 20) << true << 20;
     QTest::newRow("31 pixels drag") << QPoint(0, 31) << false << 31;
@@ -146,7 +132,6 @@ void tst_QKXComboBoxList::drags()
     QFETCH(QPoint, travel);
     QFETCH(bool, picks);
     QFETCH(int, columnMoves);
-
     Stage s;
     QVERIFY(s.ready());
     s.widget->setMetaData(kxtest::longRecord(8));
@@ -155,42 +140,15 @@ void tst_QKXComboBoxList::drags()
     s.open(30);
     const int startY = s.column()->y();
     QCOMPARE(startY, s.fieldTop() - 126);
-
-    // The finger goes down on the row level with the field and travels with the column it drags.
     const QPoint start = s.centreOf(s.item(3));
     QTest::mousePress(&s.screen, Qt::LeftButton, Qt::NoModifier, start);
     QTest::mouseMove(&s.screen, start + travel);
     QCOMPARE(s.column()->y() - startY, columnMoves);
     QTest::mouseRelease(&s.screen, Qt::LeftButton, Qt::NoModifier, start + travel);
-
     QCOMPARE(kxtest::firstInts(submitted), picks ? QList<int>{30} : QList<int>());
     QCOMPARE(s.popup->isVisible(), !picks);
     QCOMPARE(s.filter->isEditing(), !picks);
     QVERIFY(!s.item(3)->isDown());
-}
-
-void tst_QKXComboBoxList::reopeningShowsTheNewRecord()
-{
-    Stage s;
-    auto *other = new QKXComboBox(&s.screen);
-    other->setGeometry(400, 100, 160, 60);
-    s.widget->setMetaData(kxtest::longRecord(6));
-    s.open(20);
-    s.popup->unregister();
-    QVERIFY(!s.popup->isVisible());
-
-    other->setMetaData(record({{5, "Peak"}, {2, "RMS"}, {9, "Average"}}));
-    other->setIndex(9);
-    s.popup->registerWidget(s.filter, other);
-    QCOMPARE(namesAndTexts(s.popup), QStringList({"cbPushButton/Peak", "cbPushButton/RMS", "lastPushButton/Average"}));
-    QCOMPARE(s.popup->valueOfRow(2), 9);
-    QCOMPARE(s.column()->y(), other->findChild<QLabel *>(QStringLiteral("ComboText"))->mapTo(&s.screen, QPoint()).y() - 84);
-
-    // Back to the longer record: the closing name moves on to its last item.
-    s.popup->registerWidget(s.filter, s.widget);
-    QCOMPARE(s.popup->shownItems().size(), 6);
-    QCOMPARE(s.item(2)->objectName(), QStringLiteral("cbPushButton"));
-    QCOMPARE(s.item(5)->objectName(), QStringLiteral("lastPushButton"));
 }
 
 void tst_QKXComboBoxList::tapsEndToEnd()
@@ -202,7 +160,6 @@ void tst_QKXComboBoxList::tapsEndToEnd()
     QStringList log;
     kxtest::HostDouble host(s.filter, s.widget, s.popup, log);
     QSignalSpy submitted(s.filter, &QKXComboEventFilter::submit);
-
     // A tap on empty screen cancels; so does one on the combo box under the overlay, which does not
     // open the popup again.
     for (const QPoint &beside : {QPoint(700, 40), s.centreOf(s.field())}) {
@@ -217,7 +174,6 @@ void tst_QKXComboBoxList::tapsEndToEnd()
     }
     QCOMPARE(submitted.count(), 0);
     QCOMPARE(s.widget->currentIndex(), 1);
-
     QTest::mouseClick(&s.screen, Qt::LeftButton, Qt::NoModifier, s.centreOf(s.field()));
     QVERIFY(s.filter->isEditing());
     // Beside the widget, the current value's row level with the field.
@@ -231,7 +187,6 @@ void tst_QKXComboBoxList::tapsEndToEnd()
     QVERIFY(!s.filter->isEditing());
     QVERIFY(!s.popup->filter());
     QCOMPARE(s.field()->text(), QStringLiteral("Auto"));
-
     // The popup let go of the filter: a late submit or editEnd no longer reaches it.
     log.clear();
     emit s.popup->submit(3);
@@ -242,13 +197,11 @@ void tst_QKXComboBoxList::tapsEndToEnd()
 void tst_QKXComboBoxList::popupsRefuseWidgetsTheyCannotEdit()
 {
     kxtest::DebugLines debug;
-    QWidget screen;
-    auto *label = new QLabel(&screen);
-    auto *combo = new QKXComboBox(&screen);
+    QLabel label;
+    QKXComboBox combo;
     QKXComboBoxList list;
     QKXComboWheel wheel;
-    const QList<QPair<QKXComboPopup *, QWidget *>> refusals{{&list, label}, {&wheel, combo}};
-    for (const auto &refusal : refusals) {
+    for (const auto &refusal : QList<QPair<QKXComboPopup *, QWidget *>>{{&list, &label}, {&wheel, &combo}}) {
         QKXComboEventFilter filter(refusal.second);
         QCoreApplication::processEvents();
         filter.lockAcquired(refusal.second);
@@ -261,7 +214,7 @@ void tst_QKXComboBoxList::popupsRefuseWidgetsTheyCannotEdit()
                                                "UserInterface - QKXComboWheel::registerWidget - cannot edit this widget: QKXComboBox"}));
 }
 
-void tst_QKXComboBoxList::thousandsOfEntries()
+void tst_QKXComboBoxList::thousandsOfEntriesAndReopening()
 {
     Stage s;
     QVERIFY(s.ready());
@@ -272,19 +225,24 @@ void tst_QKXComboBoxList::thousandsOfEntries()
     QCOMPARE(s.popup->shownItems().size(), 3000);
     QCOMPARE(s.popup->shownItems().constLast()->objectName(), QStringLiteral("lastPushButton"));
     QCOMPARE(s.column()->y(), 0);
-
-    // Opening again on the same record reuses the column as it stands.
     s.popup->unregister();
-    QElapsedTimer reopening;
-    reopening.start();
+    QVERIFY(!s.popup->isVisible());
+    // Another combo box's record replaces the column, placed by that combo box.
+    auto *other = new QKXComboBox(&s.screen);
+    other->setGeometry(400, 100, 160, 60);
+    other->setMetaData(record({{5, "Peak"}, {2, "RMS"}, {9, "Average"}}));
+    other->setIndex(9);
+    s.popup->registerWidget(s.filter, other);
+    QCOMPARE(namesAndTexts(s.popup), QStringList({"cbPushButton/Peak", "cbPushButton/RMS", "lastPushButton/Average"}));
+    QCOMPARE(s.popup->valueOfRow(2), 9);
+    QCOMPARE(s.column()->y(), other->findChild<QLabel *>(QStringLiteral("ComboText"))->mapTo(&s.screen, QPoint()).y() - 84);
+    // Back to the long record: the closing name moves on to its last item.
     s.popup->registerWidget(s.filter, s.widget);
-    QVERIFY2(reopening.elapsed() < 1000, qPrintable(QString::number(reopening.elapsed())));
-
+    QCOMPARE(s.popup->shownItems().size(), 3000);
+    QCOMPARE(s.item(2)->objectName(), QStringLiteral("cbPushButton"));
+    QCOMPARE(s.item(2999)->objectName(), QStringLiteral("lastPushButton"));
     // Drag the column up by a screen and pick what is then level with the top of the field.
-    const QPoint start = s.centreOf(s.item(5));
-    QTest::mousePress(&s.screen, Qt::LeftButton, Qt::NoModifier, start);
-    QTest::mouseMove(&s.screen, start - QPoint(0, 420));
-    QTest::mouseRelease(&s.screen, Qt::LeftButton, Qt::NoModifier, start - QPoint(0, 420));
+    s.swipe(s.centreOf(s.item(5)), s.centreOf(s.item(5)) - QPoint(0, 420));
     QCOMPARE(s.column()->y(), -420);
     QTest::mouseClick(&s.screen, Qt::LeftButton, Qt::NoModifier, s.centreOf(s.item(15)));
     QCOMPARE(kxtest::firstInts(submitted), QList<int>{150});

@@ -4,132 +4,10 @@
 #include <QtTest>
 
 #include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QTimer>
 
-#include "QKXNumericValueObj.h"
-#include "QKXNumericValueObjEventFilter.h"
-#include "QKXNumpad.h"
-#include "QKXRichTextPushButton.h"
-#include "ValueHelper.h"
-
-#include "NumericTestSupport.h"
-#include "UnitsTestSupport.h"
+#include "EditorTestSupport.h"
 
 using namespace kxtest;
-
-namespace {
-
-// The host around one field with units: the lock owner grants from the event loop, the pad opens on
-// editStart, and the engine stores every submit in hertz and answers later with setValue(value, Hz).
-struct UnitScreen
-{
-    explicit UnitScreen(const QString &dataType = QStringLiteral("ValueDouble"))
-    {
-        window.resize(800, 480);
-        window.setObjectName(QStringLiteral("MainWindow"));
-        field = new QKXNumericValueObj(&window);
-        field->setObjectName(QStringLiteral("GeneratorFrequency"));
-        field->setGeometry(40, 40, 220, 60);
-        field->setPrecision(3);
-        field->setBaseUnit(hertz());
-        field->setDefaultUnit(2);
-        field->setUnitListString(frequencyUnits());
-        field->setValue(engineHz.current, hertz());
-        QObject *adapter = dataType == QLatin1String("ValueLong") ? static_cast<QObject *>(&engineLong)
-                                                                  : static_cast<QObject *>(&engineHz);
-        filter = new QKXNumericValueObjEventFilter(field, dataType, nullptr, adapter);
-        field->installEventFilter(filter);
-        entry = field->findChild<QLineEdit *>();
-        pad = new QKXNumpad(&window);
-
-        QObject::connect(filter, &QKXEventFilterBase::attemptSetLock, [this](QWidget *widget, bool locked) {
-            road << (locked ? QStringLiteral("lock") : QStringLiteral("release"));
-            holder = locked ? widget : nullptr;
-            if (locked)
-                QTimer::singleShot(0, filter, [this, widget] { filter->lockAcquired(widget); });
-        });
-        QObject::connect(filter, &QKXEventFilterBase::editStart, [this](QObject *edit, QWidget *widget) {
-            road << QStringLiteral("editStart");
-            pad->registerWidget(edit, widget);
-        });
-        QObject::connect(filter, &QKXEventFilterBase::editEnd, [this] { road << QStringLiteral("editEnd"); });
-        QObject::connect(filter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit),
-                         [this](double value, const QString &unit) {
-                             road << QStringLiteral("submit %1 %2").arg(value).arg(unitText(unit));
-                             engineStore(value, unit);
-                         });
-        QObject::connect(filter, QOverload<int, QString>::of(&QKXNumericValueObjEventFilter::submit),
-                         [this](int value, const QString &unit) {
-                             road << QStringLiteral("submit int %1 %2").arg(value).arg(unitText(unit));
-                         });
-        QObject::connect(field, QOverload<double, QString>::of(&QKXNumericValueObj::valueChanged),
-                         [this](double value, const QString &unit) {
-                             road << QStringLiteral("setValue %1 %2").arg(value).arg(unitText(unit));
-                         });
-    }
-
-    static QString unitText(const QString &unit)
-    {
-        return unit == neutralUnits() ? QStringLiteral("(neutral)")
-                                      : ValueHelper::getUnitString(ValueHelper::convertToUnits(unit));
-    }
-
-    // The engine keeps hertz; the neutral string means the value is in the base unit already.
-    void engineStore(double value, const QString &unit)
-    {
-        const double hz = unit == neutralUnits()
-            ? value
-            : ValueHelper::convertValue(value, ValueHelper::convertToUnits(unit), ValueHelper::convertToUnits(hertz()));
-        QTimer::singleShot(0, field, [this, hz] {
-            engineHz.current = hz;
-            road << QStringLiteral("engine %1 Hz").arg(hz);
-            field->setValue(hz, hertz());
-        });
-    }
-
-    bool show()
-    {
-        window.show();
-        return QTest::qWaitForWindowExposed(&window) && QTest::qWaitFor([this] { return !entry->isEnabled(); });
-    }
-    bool tapAndWaitForPad()
-    {
-        const QPoint at = entry->geometry().center();
-        QTest::mousePress(field, Qt::LeftButton, Qt::NoModifier, at);
-        QTest::mouseRelease(field, Qt::LeftButton, Qt::NoModifier, at);
-        return QTest::qWaitFor([this] { return pad->isVisible() && filter->isEditing(); });
-    }
-    void click(QPushButton *key)
-    {
-        QVERIFY(key && key->isVisible() && key->isEnabled());
-        QTest::mouseClick(key, Qt::LeftButton, Qt::NoModifier, key->rect().center());
-    }
-    QStringList unitKeys() const
-    {
-        QStringList keys;
-        for (int i = 0; i < 4; ++i) {
-            auto *key = qobject_cast<QKXRichTextPushButton *>(pad->unitButton(i));
-            if (key && key->isVisible())
-                keys << key->text() + QLatin1Char('/') + key->objectName();
-        }
-        return keys;
-    }
-
-    DoubleAdapter engineHz{1.0e6};
-    IntAdapter engineLong{1000000};
-    QStringList road;
-    QPointer<QWidget> holder;
-    QWidget window;
-    QKXNumericValueObj *field;
-    QLineEdit *entry;
-    QKXNumericValueObjEventFilter *filter;
-    QKXNumpad *pad;
-};
-
-} // namespace
 
 class tst_UnitEntryRoad : public QObject
 {
@@ -137,29 +15,19 @@ class tst_UnitEntryRoad : public QObject
 
 private slots:
     void unitKeysFollowTheUnitList();
-    void plainNumberCommitsWithEnterInTheBaseUnit();
-    void longValuesCommitTheIntegerForm();
+    void plainAndLongValuesCommit();
     void roadOfOneEditThenACancel();
     void keyboardAndHostCommits();
 };
 
 void tst_UnitEntryRoad::unitKeysFollowTheUnitList()
 {
-    UnitScreen screen;
-    QVERIFY(screen.show());
-    QVERIFY(screen.tapAndWaitForPad());
-    QCOMPARE(screen.unitKeys(), QStringList({"Hz/unit", "kHz/unit", "MHz/lastUnit"}));
-    QVERIFY(!screen.pad->button(QStringLiteral("enter"))->isVisible());
-    QCOMPARE(screen.pad->unitButton(1)->property("UnitString").toString(), kilohertz());
-    QVERIFY(screen.pad->button(QStringLiteral("dot"))->isEnabled());
-    screen.filter->cancel();
-
     // Five units: four keys, the last shown one closes the column. Short entries get no key.
     DebugLines lines;
-    const QString five = QStringList{hertz(), kilohertz(), megahertz(), "0,9,1:1;0:0;0:0;0:0;0:0",
-                                     "0,-3,1:1;0:0;0:0;0:0;0:0"}.join('|');
-    screen.field->setUnitListString(five);
-    QVERIFY(QTest::qWaitFor([&] { return !screen.filter->isEditing(); }));
+    UnitScreen screen;
+    screen.field->setUnitListString(QStringList{hertz(), kilohertz(), megahertz(), "0,9,1:1;0:0;0:0;0:0;0:0",
+                                                "0,-3,1:1;0:0;0:0;0:0;0:0"}.join('|'));
+    QVERIFY(screen.show());
     QVERIFY(screen.tapAndWaitForPad());
     QCOMPARE(screen.unitKeys(), QStringList({"Hz/unit", "kHz/unit", "MHz/unit", "GHz/lastUnit"}));
     screen.filter->cancel();
@@ -174,28 +42,27 @@ void tst_UnitEntryRoad::unitKeysFollowTheUnitList()
                                          "[index, name, true, units string] - no key for it"}));
 }
 
-void tst_UnitEntryRoad::plainNumberCommitsWithEnterInTheBaseUnit()
+void tst_UnitEntryRoad::plainAndLongValuesCommit()
 {
-    UnitScreen screen;
-    screen.field->setUnitListString(QString());
-    screen.field->setValue(12.0, neutralUnits());
-    QVERIFY(screen.show());
-    QVERIFY(screen.tapAndWaitForPad());
-    QVERIFY(screen.unitKeys().isEmpty());
-    screen.click(screen.pad->button(QStringLiteral("4")));
-    screen.road.clear();
-    screen.click(screen.pad->button(QStringLiteral("enter")));
-    QCOMPARE(screen.road.mid(0, 3), QStringList({"submit 4 (neutral)", "editEnd", "release"}));
-    QCOMPARE(screen.field->unitIndex(), -1);
-}
+    // Without units, Enter commits in the base unit.
+    UnitScreen plain;
+    plain.field->setUnitListString(QString());
+    plain.field->setValue(12.0, neutralUnits());
+    QVERIFY(plain.show());
+    QVERIFY(plain.tapAndWaitForPad());
+    QVERIFY(plain.unitKeys().isEmpty());
+    plain.press(QStringLiteral("4"));
+    plain.road.clear();
+    plain.press(QStringLiteral("enter"));
+    QCOMPARE(plain.road.mid(0, 3), QStringList({"submit 4 (neutral)", "editEnd", "release"}));
+    QCOMPARE(plain.field->unitIndex(), -1);
 
-void tst_UnitEntryRoad::longValuesCommitTheIntegerForm()
-{
+    // A long value has no dot and commits its integer form only.
     UnitScreen screen(QStringLiteral("ValueLong"));
     QVERIFY(screen.show());
     QVERIFY(screen.tapAndWaitForPad());
     QVERIFY(!screen.pad->button(QStringLiteral("dot"))->isEnabled());
-    screen.click(screen.pad->button(QStringLiteral("7")));
+    screen.press(QStringLiteral("7"));
     screen.road.clear();
     screen.click(screen.pad->unitButton(0));
     QCOMPARE(screen.road.mid(0, 3), QStringList({"submit int 7 Hz", "editEnd", "release"}));
@@ -212,16 +79,18 @@ void tst_UnitEntryRoad::roadOfOneEditThenACancel()
 
     // Tap: the lock is asked for and granted, the edit starts, the pad opens with one key per unit.
     QVERIFY(screen.tapAndWaitForPad());
-    QCOMPARE(screen.holder, screen.field);
+    QCOMPARE(screen.lockOwner.holder, screen.field);
     QCOMPARE(screen.road, QStringList({"lock", "editStart"}));
     QCOMPARE(screen.pad->registeredWidget(), screen.field);
     QCOMPARE(screen.unitKeys(), QStringList({"Hz/unit", "kHz/unit", "MHz/lastUnit"}));
+    QCOMPARE(screen.pad->unitButton(1)->property("UnitString").toString(), kilohertz());
+    QVERIFY(!screen.pad->button(QStringLiteral("enter"))->isVisible());
     QCOMPARE(screen.pad->display()->text(), QStringLiteral("1.000"));
 
     // The keys type into the field itself; the first replaces the old value.
-    screen.click(screen.pad->button(QStringLiteral("2")));
-    screen.click(screen.pad->button(QStringLiteral("dot")));
-    screen.click(screen.pad->button(QStringLiteral("5")));
+    screen.press(QStringLiteral("2"));
+    screen.press(QStringLiteral("dot"));
+    screen.press(QStringLiteral("5"));
     QCOMPARE(screen.entry->text(), QStringLiteral("2.5"));
     QCOMPARE(screen.pad->display()->text(), QStringLiteral("2.5"));
 
@@ -230,7 +99,7 @@ void tst_UnitEntryRoad::roadOfOneEditThenACancel()
     QVERIFY(QTest::qWaitFor([&] { return screen.road.size() >= 7; }));
     QCOMPARE(screen.road, QStringList({"lock", "editStart", "submit 2.5 kHz", "editEnd", "release", "engine 2500 Hz",
                                        "setValue 2500 Hz"}));
-    QVERIFY(!screen.holder);
+    QVERIFY(!screen.lockOwner.holder);
     QVERIFY(!screen.pad->isVisible());
     QVERIFY(!screen.filter->isEditing());
     QVERIFY(!screen.entry->isEnabled());
@@ -243,9 +112,9 @@ void tst_UnitEntryRoad::roadOfOneEditThenACancel()
 
     // Cancel gives back the engine's value, in hertz, and the chosen unit stays.
     QVERIFY(screen.tapAndWaitForPad());
-    screen.click(screen.pad->button(QStringLiteral("9")));
+    screen.press(QStringLiteral("9"));
     screen.road.clear();
-    screen.click(screen.pad->button(QStringLiteral("cancel")));
+    screen.press(QStringLiteral("cancel"));
     QVERIFY(QTest::qWaitFor([&] { return screen.road.size() >= 5; }));
     QCOMPARE(screen.road, QStringList({"submit 2500 Hz", "editEnd", "release", "engine 2500 Hz", "setValue 2500 Hz"}));
     QCOMPARE(screen.entry->text(), QStringLiteral("2.500"));

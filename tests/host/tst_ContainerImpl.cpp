@@ -4,9 +4,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPointer>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QtTest>
 
 namespace {
@@ -37,11 +35,9 @@ class tst_ContainerImpl : public QObject
 
 private Q_SLOTS:
     void init();
-    void openedAndClosedEachTime();
     void showPlacesPopup();
     void dragKeepsInsideParent();
-    void border();
-    void closeKey();
+    void borderAndCloseKey();
 
 private:
     QScopedPointer<QWidget> window;
@@ -61,34 +57,23 @@ void tst_ContainerImpl::init()
     QVERIFY(QTest::qWaitForWindowExposed(window.data()));
 }
 
-void tst_ContainerImpl::openedAndClosedEachTime()
+void tst_ContainerImpl::showPlacesPopup()
 {
-    // Built before its screen is shown, the popup must still not open with it.
+    // Built before its screen is shown, a popup must still not open with it.
     QWidget other;
-    ContainerImpl popup(&other);
+    ContainerImpl early(&other);
+    other.show();
+    QVERIFY(!early.isVisible());
+
+    ContainerImpl popup(screen);
     QStringList events;
     connect(&popup, &ContainerBase::WindowOpened, [&] { events << QStringLiteral("opened"); });
     connect(&popup, &ContainerBase::WindowClosed, [&] { events << QStringLiteral("closed"); });
-    other.show();
-    QVERIFY(!popup.isVisible());
-    for (int i = 0; i < 2; ++i) {
-        popup.show();
-        popup.show(); // already open: no second announcement
-        QVERIFY(popup.isVisible());
-        popup.hide();
-        QVERIFY(!popup.isVisible());
-    }
-    QCOMPARE(events, (QStringList{"opened", "closed", "opened", "closed"}));
-}
-
-void tst_ContainerImpl::showPlacesPopup()
-{
-    ContainerImpl popup(screen);
     popup.resize(50, 60);
     popup.show();
+    popup.show(); // already open: no second announcement
     QCOMPARE(popup.size(), QSize(50, 60)); // no normal size: left alone
     popup.hide();
-
     popup.setNormalSize(260, 200);
     QCOMPARE(popup.sizeHint(), QSize(260, 200));
     popup.resize(100, 100);
@@ -102,6 +87,8 @@ void tst_ContainerImpl::showPlacesPopup()
     QCOMPARE(popup.mapTo(window.data(), QPoint(0, 0)), origin + QPoint(30, 40));
     QWidget *top = screen->childAt(50, 60);
     QVERIFY(top == &popup || popup.isAncestorOf(top));
+    popup.hide();
+    QCOMPARE(events, (QStringList{"opened", "closed", "opened", "closed"}));
 }
 
 void tst_ContainerImpl::dragKeepsInsideParent()
@@ -134,37 +121,31 @@ void tst_ContainerImpl::dragKeepsInsideParent()
     QCOMPARE(popup.pos(), QPoint(0, 0));
 }
 
-void tst_ContainerImpl::border()
+void tst_ContainerImpl::borderAndCloseKey()
 {
-    // The sheet reaches the frame and the title bar by their names.
+    // The sheet reaches the frame and the title bar by their names; restyling after a palette change
+    // keeps the border choice.
     ContainerImpl popup(screen);
     QCOMPARE(popup.borderFrame()->objectName(), QStringLiteral("BorderFrame"));
     QCOMPARE(popup.controlWidget()->objectName(), QStringLiteral("ContainerControl"));
     QVERIFY(borderFrameRule(popup).contains(CSS::border()));
     popup.setBorder(false);
-    // Restyling after a palette change keeps the choice.
     popup.updateStyle();
     QVERIFY(borderFrameRule(popup).contains(QLatin1String("border: none")));
     popup.setBorder(true);
     QVERIFY(borderFrameRule(popup).contains(CSS::border()));
     QVERIFY(!borderFrameRule(popup).contains(QLatin1String("border: none")));
-}
 
-void tst_ContainerImpl::closeKey()
-{
-    ContainerImpl popup(screen);
     auto *key = popup.findChild<QPushButton *>(QStringLiteral("ContainerClose"));
     popup.setWindowTitle(QStringLiteral("Keyboard"), ContainerBase::CloseButton);
     QCOMPARE(popup.findChild<QLabel *>(QStringLiteral("ContainerTitle"))->text(), QStringLiteral("Keyboard"));
     popup.show();
     QVERIFY(key && key->isVisible());
-
     kxtest::WordTranslator german("Close", "Schließen");
     QCoreApplication::installTranslator(&german);
     QTRY_COMPARE(key->text(), QStringLiteral("Schließen"));
     QCoreApplication::removeTranslator(&german);
     QTRY_COMPARE(key->text(), QStringLiteral("Close"));
-
     popup.setWindowTitle(QStringLiteral("Keyboard"), ContainerBase::NoTitleButtons);
     popup.show();
     QVERIFY(!key->isVisible());

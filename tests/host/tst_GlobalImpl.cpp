@@ -7,22 +7,18 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-class MainScreen : public QWidget
-{
-    Q_OBJECT
-};
+class MainScreen : public QWidget { Q_OBJECT };
 
 class tst_GlobalImpl : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void destroyedDesktop();
-    void parentWindowName();
+    void desktopAndWindowName();
     void screenRegistry();
 };
 
-void tst_GlobalImpl::destroyedDesktop()
+void tst_GlobalImpl::desktopAndWindowName()
 {
     // A destroyed desktop does not leave a dangling pointer behind.
     GlobalImpl *global = GlobalImpl::getInstance();
@@ -31,11 +27,8 @@ void tst_GlobalImpl::destroyedDesktop()
     QCOMPARE(global->desktop(), mainWindow);
     delete mainWindow;
     QCOMPARE(global->desktop(), static_cast<QWidget *>(QApplication::desktop()));
-}
 
-void tst_GlobalImpl::parentWindowName()
-{
-    const GlobalImpl *global = GlobalImpl::getInstance();
+    // A window without a name is known by its class.
     MainScreen window;
     auto *field = new QLabel(new QWidget(&window));
     QCOMPARE(global->getParentWindowName(field), QStringLiteral("MainScreen"));

@@ -20,7 +20,6 @@ void tst_QKXUtil::processString_data()
     QTest::addColumn<QString>("expected");
 
     QTest::newRow("blank") << " \t\n " << "";
-    QTest::newRow("trimmed") << "  RF Out \n" << "RF Out";
     QTest::newRow("line break") << "Carrier\nLevel" << "Carrier<br>Level";
     QTest::newRow("crlf") << "a\r\nb" << "a<br>b";
     QTest::newRow("escaped break") << "Carrier\\nLevel" << "Carrier<br>Level";

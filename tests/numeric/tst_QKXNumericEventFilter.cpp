@@ -50,16 +50,15 @@ class tst_QKXNumericEventFilter : public QObject
     Q_OBJECT
 
 private slots:
-    void tapAsksForLockWithAdapter();
+    void tapAsksForLockAndHideEndsOnce();
     void typedCommit_data();
     void typedCommit();
     void cancel_data();
     void cancel();
-    void hideEndsEditOnce();
     void parentlessFilterWaitsForStart();
 };
 
-void tst_QKXNumericEventFilter::tapAsksForLockWithAdapter()
+void tst_QKXNumericEventFilter::tapAsksForLockAndHideEndsOnce()
 {
     QStringList log;
     IntAdapter adapter(7);
@@ -82,6 +81,16 @@ void tst_QKXNumericEventFilter::tapAsksForLockWithAdapter()
     QCOMPARE(field.filter->savedValue(), 7.0);   // the engine's value, not the display's
     QCOMPARE(QApplication::focusWidget(), field.display);
     QCOMPARE(field.display->selectedText(), QStringLiteral("42"));
+
+    // The cancel ends the edit; the hide handling every filter shares then announces the end once more.
+    log.clear();
+    field.widget.hide();
+    QCOMPARE(log, QStringList({"int 7", "editEnd", "release", "editEnd"}));
+    QVERIFY(!field.filter->isEditing());
+    log.clear();
+    field.widget.show();
+    field.widget.hide();
+    QCOMPARE(log, QStringList({"editEnd"}));   // idle: nothing to give back
 }
 
 void tst_QKXNumericEventFilter::typedCommit_data()
@@ -95,20 +104,16 @@ void tst_QKXNumericEventFilter::typedCommit_data()
     const int ret = Qt::Key_Return;
     const QStringList nothing;
     QTest::newRow("int hex") << "Int" << 16 << "1F" << ret << QStringList({"double 31", "int 31", "editEnd", "release"});
-    QTest::newRow("int bin, enter") << "Int" << 2 << "-101" << int(Qt::Key_Enter)
-                                    << QStringList({"double -5", "int -5", "editEnd", "release"});
     QTest::newRow("int max") << "Int" << 10 << "2147483647" << ret
                              << QStringList({"double 2147483647", "int 2147483647", "editEnd", "release"});
     QTest::newRow("double") << "Double" << 10 << "2.75" << int(Qt::Key_Enter)
                             << QStringList({"double 2.75", "int 2", "editEnd", "release"});
     QTest::newRow("double beyond int") << "Double" << 10 << "1e12" << ret
                                        << QStringList({"double 1e+12", "int 2147483647", "editEnd", "release"});
-    QTest::newRow("garbage") << "Double" << 10 << "abc" << ret << nothing;
     QTest::newRow("fraction for int") << "Int" << 10 << "2.5" << ret << nothing;
     QTest::newRow("decimal pasted into bin") << "Int" << 2 << "12" << ret << nothing;
     QTest::newRow("beyond int") << "Int" << 10 << "2147483648" << ret << nothing;
     QTest::newRow("nan") << "Double" << 10 << "nan" << ret << nothing;
-    QTest::newRow("overflow") << "Double" << 10 << "1e400" << ret << nothing;
     QTest::newRow("unknown data type") << "Text" << 10 << "12" << ret << nothing;
     QTest::newRow("other keys") << "Int" << 10 << "12" << int(Qt::Key_Tab) << nothing;
 }
@@ -160,48 +165,23 @@ void tst_QKXNumericEventFilter::cancel()
     QFETCH(QString, adapterKind);
     QFETCH(QStringList, log);
 
-    for (const bool byEscape : {true, false}) {
-        QStringList seen;
-        IntAdapter intAdapter(7);
-        DoubleAdapter doubleAdapter(4.5);
-        QObject *adapter = adapterKind == QLatin1String("int") ? static_cast<QObject *>(&intAdapter)
-            : adapterKind == QLatin1String("double")           ? static_cast<QObject *>(&doubleAdapter)
-                                                               : nullptr;
-        Field field(dataType, adapter, seen);
-        field.widget.setValue(-2.5);
-        QVERIFY(field.edit());
-        field.display->setText(QStringLiteral("99"));
-        // The engine moves on during the edit: the cancel gives back what the edit started from.
-        intAdapter.current = 1;
-        doubleAdapter.current = 1.0;
-        seen.clear();
-
-        if (byEscape)
-            QTest::keyClick(field.display, Qt::Key_Escape);
-        else
-            QVERIFY(QMetaObject::invokeMethod(field.filter, "cancel"));
-        QCOMPARE(seen, log);
-        QVERIFY(!field.filter->isEditing());
-    }
-}
-
-void tst_QKXNumericEventFilter::hideEndsEditOnce()
-{
     QStringList seen;
-    DoubleAdapter adapter(12.5);
-    Field field(QStringLiteral("Double"), &adapter, seen);
+    IntAdapter intAdapter(7);
+    DoubleAdapter doubleAdapter(4.5);
+    QObject *adapter = adapterKind == QLatin1String("int") ? static_cast<QObject *>(&intAdapter)
+        : adapterKind == QLatin1String("double")           ? static_cast<QObject *>(&doubleAdapter)
+                                                           : nullptr;
+    Field field(dataType, adapter, seen);
+    field.widget.setValue(-2.5);
     QVERIFY(field.edit());
+    field.display->setText(QStringLiteral("99"));
+    // The engine moves on during the edit: the cancel gives back what the edit started from.
+    intAdapter.current = 1;
+    doubleAdapter.current = 1.0;
     seen.clear();
-
-    field.widget.hide();
-    // The cancel ends the edit; the hide handling every filter shares then announces the end once more.
-    QCOMPARE(seen, QStringList({"double 12.5", "editEnd", "release", "editEnd"}));
+    QTest::keyClick(field.display, Qt::Key_Escape);
+    QCOMPARE(seen, log);
     QVERIFY(!field.filter->isEditing());
-
-    seen.clear();
-    field.widget.show();
-    field.widget.hide();
-    QCOMPARE(seen, QStringList({"editEnd"}));   // idle: nothing to give back
 }
 
 void tst_QKXNumericEventFilter::parentlessFilterWaitsForStart()
@@ -210,19 +190,16 @@ void tst_QKXNumericEventFilter::parentlessFilterWaitsForStart()
     DoubleAdapter adapter(3.25);
     auto *f = new QKXNumericEventFilter(nullptr, QStringLiteral("Double"), nullptr);
     kxtest::logFilter(f, seen);
-    // The host completes it: a widget, an adapter, then the machine.
+    // The host completes it: a widget, an adapter, then the machine. Nothing edits before the machine runs.
     QKXNumeric widget;
-    QLineEdit *display = widget.findChild<QLineEdit *>();
     f->setParent(&widget);
     f->setAdapter(&adapter);
-    QTest::qWait(30);
-    QVERIFY(!f->isMachineStarted());
-    QVERIFY(seen.isEmpty());
     f->forceClick();
     f->lockAcquired(&widget);
-    QTest::qWait(20);
+    QTest::qWait(30);
+    QVERIFY(!f->isMachineStarted());
     QCOMPARE(seen, QStringList({"lock", "editStart"}));
-    QVERIFY(!f->isEditing());   // nothing runs before the machine does
+    QVERIFY(!f->isEditing());
 
     seen.clear();
     QVERIFY(QMetaObject::invokeMethod(f, "startMachine"));
@@ -230,7 +207,7 @@ void tst_QKXNumericEventFilter::parentlessFilterWaitsForStart()
     f->lockAcquired(&widget);
     QTRY_VERIFY(f->isEditing());
     QCOMPARE(f->savedValue(), 3.25);
-    QVERIFY(display->isEnabled());
+    QVERIFY(widget.findChild<QLineEdit *>()->isEnabled());
 }
 
 QTEST_MAIN(tst_QKXNumericEventFilter)

@@ -12,7 +12,6 @@
 #include "QKXUtil.h"
 
 #include "NumericTestSupport.h"
-#include "UnitsTestSupport.h"
 
 using namespace kxtest;
 
@@ -71,13 +70,10 @@ class tst_QKXNumericValueObj : public QObject
 
 private slots:
     void unitsConvertAndSignalInOrder();
-    void groupModes_data();
-    void groupModes();
     void newUnitWithTheValueRebuildsTheList();
     void badUnitData();
     void looksWithAndWithoutUnit();
-    void filterHideAndLongCancel();
-    void unitFilterSitsOnTheSelectorOnlyWhileIdle();
+    void filterHideAndUnitTaps();
 };
 
 void tst_QKXNumericValueObj::unitsConvertAndSignalInOrder()
@@ -135,32 +131,6 @@ void tst_QKXNumericValueObj::unitsConvertAndSignalInOrder()
     QCOMPARE(f.display->text(), QStringLiteral("1234.500"));
 }
 
-void tst_QKXNumericValueObj::groupModes_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<QStringList>("offered");
-    const QString mixed = QStringList{kilohertz(), seconds(), megahertz()}.join('|');
-    QTest::newRow("convertable") << int(QKXNumericValueObj::Convertable) << mixed << QStringList({"0 kHz", "2 MHz"});
-    QTest::newRow("none") << int(QKXNumericValueObj::None) << mixed << QStringList({"-1 Hz"});
-    QTest::newRow("nothing converts") << int(QKXNumericValueObj::Convertable) << seconds() << QStringList({"-1 Hz"});
-}
-
-void tst_QKXNumericValueObj::groupModes()
-{
-    QFETCH(int, mode);
-    QFETCH(QString, list);
-    QFETCH(QStringList, offered);
-    DebugLines lines;
-    QKXNumericValueObj field;
-    field.setBaseUnit(hertz());
-    field.setGroupUnits(QKXNumericValueObj::Unit_Groups(mode));
-    field.setUnitListString(list);
-    QCOMPARE(offeredTexts(field), offered);
-    QCOMPARE(field.unitIndex(), offered.first().section(' ', 0, 0).toInt());
-    QVERIFY2(lines.lines().isEmpty(), qPrintable(lines.lines().join('\n')));
-}
-
 void tst_QKXNumericValueObj::newUnitWithTheValueRebuildsTheList()
 {
     FrequencyField f;
@@ -178,6 +148,22 @@ void tst_QKXNumericValueObj::newUnitWithTheValueRebuildsTheList()
     QCOMPARE(plain.property("UnitList").toList(),
              QVariantList({QVariantList{-1, QString(), true, neutralUnits()}}));
     QVERIFY(plain.findChild<QKXComboBox *>()->isHidden());
+
+    // Grouped, only the units converting to the base are offered; ungrouped or with none of them, the base.
+    DebugLines lines;
+    const QString mixed = QStringList{kilohertz(), seconds(), megahertz()}.join('|');
+    plain.setBaseUnit(hertz());
+    plain.setGroupUnits(QKXNumericValueObj::Convertable);
+    plain.setUnitListString(mixed);
+    QCOMPARE(offeredTexts(plain), QStringList({"0 kHz", "2 MHz"}));
+    QCOMPARE(plain.unitIndex(), 0);
+    plain.setUnitListString(seconds());
+    QCOMPARE(offeredTexts(plain), QStringList({"-1 Hz"}));
+    plain.setGroupUnits(QKXNumericValueObj::None);
+    plain.setUnitListString(mixed);
+    QCOMPARE(offeredTexts(plain), QStringList({"-1 Hz"}));
+    QCOMPARE(plain.unitIndex(), -1);
+    QVERIFY2(lines.lines().isEmpty(), qPrintable(lines.lines().join('\n')));
 }
 
 void tst_QKXNumericValueObj::badUnitData()
@@ -264,46 +250,7 @@ void tst_QKXNumericValueObj::looksWithAndWithoutUnit()
     QVERIFY(plain.styleSheet().contains("url(:/images/lock_generic.png)"));
 }
 
-void tst_QKXNumericValueObj::filterHideAndLongCancel()
-{
-    FrequencyField f;
-    DoubleAdapter adapter(1499.0);
-    IntAdapter longAdapter(-7);
-    auto *filter = new QKXNumericValueObjEventFilter(&f.field, QStringLiteral("ValueDouble"), nullptr, &adapter);
-    f.field.installEventFilter(filter);
-    QSignalSpy doubles(filter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit));
-    QSignalSpy ends(filter, &QKXEventFilterBase::editEnd);
-    f.field.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&f.field));
-    QVERIFY(QTest::qWaitFor([&] { return filter->isMachineStarted(); }));
-
-    // Hiding the field mid-edit gives the engine's value back once; an idle hide is swallowed.
-    filter->lockAcquired(&f.field);
-    QVERIFY(QTest::qWaitFor([&] { return filter->isEditing(); }));
-    f.field.hide();
-    QCOMPARE(doubles.count(), 1);
-    QCOMPARE(doubles.at(0), QVariantList({1499.0, hertz()}));
-    QCOMPARE(ends.count(), 1);
-    QVERIFY(QTest::qWaitFor([&] { return !filter->isEditing(); }));
-    f.field.show();
-    f.field.hide();
-    QCOMPARE(ends.count(), 1);
-
-    // "ValueLong" gives back the integer form only.
-    auto *longFilter = new QKXNumericValueObjEventFilter(&f.field, QStringLiteral("ValueLong"), nullptr, &longAdapter);
-    QSignalSpy longInts(longFilter, QOverload<int, QString>::of(&QKXNumericValueObjEventFilter::submit));
-    QSignalSpy longDoubles(longFilter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit));
-    QSignalSpy longLocks(longFilter, &QKXEventFilterBase::attemptSetLock);
-    QVERIFY(QTest::qWaitFor([&] { return longLocks.count() == 1; }));
-    longFilter->lockAcquired(&f.field);
-    QVERIFY(QTest::qWaitFor([&] { return longFilter->isEditing(); }));
-    longFilter->cancel();
-    QCOMPARE(longDoubles.count(), 0);
-    QCOMPARE(longInts.count(), 1);
-    QCOMPARE(longInts.at(0), QVariantList({-7, hertz()}));
-}
-
-void tst_QKXNumericValueObj::unitFilterSitsOnTheSelectorOnlyWhileIdle()
+void tst_QKXNumericValueObj::filterHideAndUnitTaps()
 {
     // Counts what reaches the host's unit filter and keeps it from the field.
     class UnitTaps : public QObject
@@ -319,25 +266,37 @@ void tst_QKXNumericValueObj::unitFilterSitsOnTheSelectorOnlyWhileIdle()
     } unitTaps;
 
     FrequencyField f;
-    auto *filter = new QKXNumericValueObjEventFilter(&f.field, QStringLiteral("ValueDouble"), &unitTaps, nullptr);
+    DoubleAdapter adapter(1499.0);
+    auto *filter = new QKXNumericValueObjEventFilter(&f.field, QStringLiteral("ValueDouble"), &unitTaps, &adapter);
     f.field.installEventFilter(filter);
+    QSignalSpy doubles(filter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit));
     QSignalSpy starts(filter, &QKXEventFilterBase::editStart);
+    QSignalSpy ends(filter, &QKXEventFilterBase::editEnd);
     f.field.show();
     QVERIFY(QTest::qWaitForWindowExposed(&f.field));
     QVERIFY(QTest::qWaitFor([&] { return filter->isMachineStarted() && !f.display->isEnabled(); }));
 
+    // The unit filter sits on the selector only while idle.
     QTest::mouseClick(f.selector, Qt::LeftButton, {}, f.selector->rect().center());
     QCOMPARE(unitTaps.presses, 1);
     QCOMPARE(starts.count(), 0);
-
     filter->lockAcquired(&f.field);
     QVERIFY(QTest::qWaitFor([&] { return filter->isEditing(); }));
     QTest::mousePress(f.selector, Qt::LeftButton, {}, f.selector->rect().center());
     QCOMPARE(unitTaps.presses, 1);
-    filter->cancel();
+
+    // Hiding the field mid-edit gives the engine's value back once; an idle hide is swallowed.
+    f.field.hide();
+    QCOMPARE(doubles.count(), 1);
+    QCOMPARE(doubles.at(0), QVariantList({1499.0, hertz()}));
+    QCOMPARE(ends.count(), 1);
     QVERIFY(QTest::qWaitFor([&] { return !filter->isEditing(); }));
+    f.field.show();
     QTest::mousePress(f.selector, Qt::LeftButton, {}, f.selector->rect().center());
     QCOMPARE(unitTaps.presses, 2);
+    f.field.hide();
+    QCOMPARE(ends.count(), 1);
+
 }
 
 QTEST_MAIN(tst_QKXNumericValueObj)

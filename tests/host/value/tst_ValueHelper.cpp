@@ -11,10 +11,7 @@ using namespace Norvane::Value;
 namespace {
 
 // A units property string whose last four pairs are empty, with something after it.
-QString withPairs(const QString &head, const QString &tail = QString())
-{
-    return QString(head + QLatin1String("0:0;0:0;0:0;0:0") + tail);
-}
+QString withPairs(const QString &head, const QString &tail = QString()) { return head + "0:0;0:0;0:0;0:0" + tail; }
 
 } // namespace
 
@@ -25,7 +22,6 @@ class tst_ValueHelper : public QObject
 private Q_SLOTS:
     void isValidUnits_data();
     void isValidUnits();
-    void extremeRecordsSurviveText_data();
     void extremeRecordsSurviveText();
     void levelsTakeNoBestFitPrefix();
     void unitStringFailureNamesTheHost();
@@ -47,7 +43,6 @@ void tst_ValueHelper::isValidUnits_data()
     QTest::newRow("four pairs") << "0,0,1:1;0:0;0:0;0:0" << false;
     QTest::newRow("six pairs") << withPairs("0,0,1:1;", ";0:0") << false;
     QTest::newRow("bare number") << withPairs("0,0,1;") << false;
-    QTest::newRow("empty fields") << withPairs("0,0,:;") << false;
     QTest::newRow("flag 2") << withPairs("2,0,1:1;") << false;
     QTest::newRow("huge prefix") << withPairs("0,3000000000,1:1;") << false;
     QTest::newRow("unknown unit") << withPairs(QStringLiteral("0,0,%1:1;").arg(int(units_list_end))) << false;
@@ -72,35 +67,20 @@ void tst_ValueHelper::isValidUnits()
         QCOMPARE(ValueHelper::toString(ValueHelper::convertToUnits(text)), text);
 }
 
-void tst_ValueHelper::extremeRecordsSurviveText_data()
-{
-    QTest::addColumn<bool>("flag");
-    QTest::addColumn<int>("prefix");
-    QTest::addColumn<int>("unit");
-    QTest::addColumn<int>("power");
-
-    const int low = std::numeric_limits<int>::min();
-    const int high = std::numeric_limits<int>::max();
-    QTest::newRow("lowest") << true << low << low << low;
-    QTest::newRow("highest") << false << high << high << high;
-}
-
 void tst_ValueHelper::extremeRecordsSurviveText()
 {
-    QFETCH(bool, flag);
-    QFETCH(int, prefix);
-    QFETCH(int, unit);
-    QFETCH(int, power);
-    Unit_tuple pairs{};
-    pairs[0] = {hertz, 1};
-    pairs[4] = {unit, power};
-    const Units record = ValueHelper::newUnits(flag, static_cast<SI_units>(prefix), &pairs);
-
+    // Records outside what a valid string can say still come back from their text, silently.
     kxtest::DebugLines debug;
-    const QString text = ValueHelper::toString(record);
-    QVERIFY(ValueHelper::convertToUnits(text) == record);
+    for (const int extreme : {std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
+        Unit_tuple pairs{};
+        pairs[0] = {hertz, 1};
+        pairs[4] = {extreme, extreme};
+        const Units record = ValueHelper::newUnits(extreme < 0, static_cast<SI_units>(extreme), &pairs);
+        const QString text = ValueHelper::toString(record);
+        QVERIFY(ValueHelper::convertToUnits(text) == record);
+        QVERIFY(!ValueHelper::isValidUnits(text));
+    }
     QCOMPARE(kxtest::DebugLines::lines(), QStringList());
-    QVERIFY(!ValueHelper::isValidUnits(text));
 }
 
 void tst_ValueHelper::levelsTakeNoBestFitPrefix()
