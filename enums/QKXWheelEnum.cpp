@@ -11,6 +11,12 @@ public:
 
     void init() override;
     void updateStyle() override;
+    // The wheel enum keeps its record, value and literal in the combo box's fields; it declares the
+    // accessors its own so that a subclass of the wheel can change them apart from the combo box's.
+    QVariant metaData() const override { return QKXComboBoxPrivate::metaData(); }
+    int currentIndex() const override { return QKXComboBoxPrivate::currentIndex(); }
+    QString text() const override { return QKXComboBoxPrivate::text(); }
+    void setText(const QString &literal) override { QKXComboBoxPrivate::setText(literal); }
     void setIndex(const int &value) override;
     void setMetaData(const QVariant &record) override;
     void retranslate() override;
