@@ -69,7 +69,6 @@ protected:
 private:
     Q_DISABLE_COPY(QKXComboPopup)
     void chain(QObject *filter);
-    void coverScreen();
     void releaseItems();
     QKXComboListItem *takeItem(int id);
 

@@ -1,6 +1,7 @@
 #include "QKXKeyPadBase.h"
 #include "QKXKeyPadBase_p.h"
 
+#include "QKXPopupChain.h"
 #include "QKXPopupPlacement.h"
 
 #include "CSS.h"
@@ -326,12 +327,7 @@ void QKXKeyPadBase::buttonSubmit()
 void QKXKeyPadBase::resetWidgets()
 {
     Q_D(QKXKeyPadBase);
-    if (d->filter) {
-        // Only the pad's own chaining goes: the host's editStart -> registerWidget connection, also
-        // one from the filter to the pad, has to survive for the next edit.
-        disconnect(d->filter, SIGNAL(editEnd()), this, SLOT(unregister()));
-        disconnect(this, nullptr, d->filter, nullptr);
-    }
+    QKXPopupChain::unchain(this, d->filter);
     for (QPushButton *button : qAsConst(d->buttons)) {
         button->setFocusProxy(nullptr);
     }

@@ -1,5 +1,7 @@
 #include "QKXPopupPlacement.h"
 
+#include "GlobalImpl.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
@@ -110,4 +112,16 @@ QPoint QKXPopupPlacement::besideWidget(const QWidget *popup, const QWidget *widg
     x = qMax(x, bounds.x());
     y = qMax(y, bounds.y());
     return QPoint(x, y);
+}
+
+void QKXPopupPlacement::coverArea(QWidget *popup)
+{
+    if (!popup->isWindow() && popup->parentWidget()) {
+        popup->setGeometry(popup->parentWidget()->rect());
+        return;
+    }
+    if (QWidget *desktop = GlobalImpl::getInstance()->desktop()) {
+        popup->setGeometry(desktop->isWindow() ? desktop->geometry()
+                                               : QRect(desktop->mapToGlobal(QPoint(0, 0)), desktop->size()));
+    }
 }

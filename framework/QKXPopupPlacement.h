@@ -45,6 +45,10 @@ public:
     // when neither side has room. A popup larger than the area keeps its top-left corner inside it.
     static QPoint besideWidget(const QWidget *popup, const QWidget *widget, const QSize &popupSize);
 
+    // Lays a full-screen popup (a list that closes on taps beside its column) over the whole area it
+    // may use: its parent's rectangle, or the host's desktop for a popup that is a window of its own.
+    static void coverArea(QWidget *popup);
+
 private:
     QKXPopupPlacement() = delete;
 };

@@ -3,9 +3,9 @@
 #include "QKXComboListFrame.h"
 #include "QKXComboListItem.h"
 #include "QKXListDoubleValueObj.h"
+#include "QKXPopupChain.h"
 #include "QKXPopupPlacement.h"
 
-#include "GlobalImpl.h"
 #include "ValueHelper.h"
 
 #include <QButtonGroup>
@@ -24,7 +24,7 @@ QKXDoubleValueList::QKXDoubleValueList(QWidget *parent)
 {
     setObjectName(QStringLiteral("listFrame"));
     setStyleSheet(QStringLiteral("QFrame#listFrame {\tbackground-color: transparent;}"));
-    coverScreen();
+    QKXPopupPlacement::coverArea(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     // The chosen value leaves before the popup closes.
@@ -73,18 +73,6 @@ QStringList QKXDoubleValueList::unitStrings() const
     return unitStringList;
 }
 
-void QKXDoubleValueList::coverScreen()
-{
-    if (!isWindow() && parentWidget()) {
-        setGeometry(parentWidget()->rect());
-        return;
-    }
-    if (QWidget *desktop = GlobalImpl::getInstance()->desktop()) {
-        setGeometry(desktop->isWindow() ? desktop->geometry()
-                                        : QRect(desktop->mapToGlobal(QPoint(0, 0)), desktop->size()));
-    }
-}
-
 void QKXDoubleValueList::registerWidget(QObject *filter, QWidget *widget)
 {
     if (registeredFilter) {
@@ -92,13 +80,8 @@ void QKXDoubleValueList::registerWidget(QObject *filter, QWidget *widget)
         unregister();
     }
     registeredFilter = filter;
-    if (filter) {
-        // Filters and popups address each other by name.
-        connect(this, SIGNAL(done()), filter, SIGNAL(editEnd()));
-        connect(filter, SIGNAL(editEnd()), this, SLOT(unregister()));
-        connect(this, SIGNAL(submit(double,QString)), filter, SIGNAL(submit(double,QString)));
-        connect(this, SIGNAL(cancel()), filter, SLOT(cancel()));
-    }
+    QKXPopupChain::chain(this, filter, SIGNAL(cancel()), SIGNAL(done()));
+    QKXPopupChain::forward(this, filter, SIGNAL(submit(double,QString)));
 
     registered = widget;
     auto *list = qobject_cast<QKXListDoubleValueObj *>(widget);
@@ -106,7 +89,7 @@ void QKXDoubleValueList::registerWidget(QObject *filter, QWidget *widget)
         processMetaDataForList(list->metaData());
     }
 
-    coverScreen();
+    QKXPopupPlacement::coverArea(this);
     show();
     raise();
     frame->setWidget(widget);
@@ -200,20 +183,14 @@ void QKXDoubleValueList::hideThis()
 
 void QKXDoubleValueList::unregister()
 {
-    if (QObject *f = registeredFilter) {
-        disconnect(f, SIGNAL(editEnd()), this, SLOT(unregister()));
-        disconnect(this, nullptr, f, nullptr);
-    }
+    QKXPopupChain::unchain(this, registeredFilter);
     registeredFilter = nullptr;
     hide();
 }
 
 void QKXDoubleValueList::mousePressEvent(QMouseEvent *event)
 {
-    // Only presses beside the column get here: the column and its buttons take their own.
+    // Only presses beside the column get here. They mean nothing: the edit ends through the filter
+    // (a value chosen, or the field hidden), which hosts rely on to keep the list up under a stray touch.
     event->accept();
-    if (registeredFilter) {
-        emit cancel();
-    }
-    hide();
 }

@@ -48,7 +48,6 @@ protected:
 
 private:
     Q_DISABLE_COPY(QKXDoubleValueList)
-    void coverScreen();
     void placeColumn();
 
     QPointer<QObject> registeredFilter;

@@ -1,7 +1,7 @@
 #include "QKXNumeric.h"
 #include "QKXNumeric_p.h"
 
-#include "KXNumberText_p.h"
+#include "KXNumberConversion_p.h"
 
 #include "CSS.h"
 

@@ -41,6 +41,7 @@ protected Q_SLOTS:
 
 protected:
     bool keyEventFilter(QObject *watched, QKeyEvent *event) override;
+    void commitTypedText() override;
     bool hideEventFilter(QObject *watched, QEvent *event) override;
     void attempLockSendLockSignal(QWidget *widget, bool locked) override;
     void rememberValue() override;

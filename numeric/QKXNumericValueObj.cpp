@@ -1,7 +1,7 @@
 #include "QKXNumericValueObj.h"
 #include "QKXNumericValueObj_p.h"
 
-#include "KXNumberText_p.h"
+#include "KXNumberConversion_p.h"
 
 #include "CSS.h"
 #include "QKXComboBox.h"
@@ -25,16 +25,6 @@ static QString kxunits_quoted(const QString &text)
 {
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
-
-// Reaches the Private of another widget of the family. The selector's Private keeps a plain pointer
-// to its caption, which must be cleared before this widget deletes that caption.
-struct KXWidgetBaseAccess : QKXWidgetBase
-{
-    static QKXWidgetBasePrivate *privateOf(QKXWidgetBase *widget)
-    {
-        return (widget->*(&KXWidgetBaseAccess::d_ptr)).data();
-    }
-};
 
 QKXNumericValueObjPrivate::QKXNumericValueObjPrivate(QKXNumericValueObj *q)
     : QKXNumericPrivate(q)
@@ -119,7 +109,8 @@ void QKXNumericValueObjPrivate::init()
     unitSelector->setObjectName(QStringLiteral("unit_combobox"));
     unitSelector->removeCSS();
     if (QLabel *selectorCaption = unitSelector->findChild<QLabel *>(QStringLiteral("Label"))) {
-        KXWidgetBaseAccess::privateOf(unitSelector)->setLabel(nullptr);
+        // The selector's Private keeps a plain pointer to its caption: clear it before the caption goes.
+        QKXWidgetBasePrivate::get(unitSelector)->setLabel(nullptr);
         delete selectorCaption;
     }
     if (QLabel *unitText = unitSelector->findChild<QLabel *>(QStringLiteral("ComboText"))) {

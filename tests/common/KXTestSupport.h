@@ -19,14 +19,26 @@ namespace kxtest {
 class DebugLines
 {
 public:
-    DebugLines() { previous() = qInstallMessageHandler(&DebugLines::handle); lines().clear(); }
+    enum Scope { LibraryLines, AllDebugLines };   // AllDebugLines: also lines without the prefix
+
+    explicit DebugLines(Scope scope = LibraryLines)
+    {
+        all() = scope == AllDebugLines;
+        previous() = qInstallMessageHandler(&DebugLines::handle);
+        lines().clear();
+    }
     ~DebugLines() { qInstallMessageHandler(previous()); }
     static QStringList &lines() { static QStringList all; return all; }
 
 private:
     static QtMessageHandler &previous() { static QtMessageHandler handler = nullptr; return handler; }
+    static bool &all() { static bool everything = false; return everything; }
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &msg)
     {
+        if (type == QtDebugMsg && all()) {
+            lines() << msg;
+            return;
+        }
         if (type == QtDebugMsg && msg.startsWith(QLatin1String("UserInterface - "))) {
             QString line = msg;
             while (line.endsWith(QLatin1Char(' ')))   // a trailing blank is the stream's business
