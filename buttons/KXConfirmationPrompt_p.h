@@ -37,6 +37,8 @@ bool displayPrompt(const QObject *filter, QWidget *widget);
 // whose closing cancels the prompt. Question and title are translated in the "KXConfirmationPrompt"
 // context (the host's dialog translates the answer keys). Without a main window, or a top container
 // with WindowClosed(), the prompt still opens (as a window of its own) and the gap is reported.
+// The prompt runs an event loop: a filter whose button went meanwhile swallows the release and
+// touches nothing more.
 int displayDialog(const QObject *filter, const QString &title, const QString &text, const QString &keys);
 
 // A release that counts as a tap: inside what received it, after a press that did not drag, on an
