@@ -231,8 +231,8 @@ void QKXWheelFrame::moveIt(const QPoint &delta)
         qDebug("moveIt 16");
     } else {
         // Anywhere else the column stays. That includes the last item put on the band by setCurIdx():
-        // the column's border leaves its end a pixel short of the band's, and hosts' wheels have
-        // always stood still there.
+        // the column's border leaves its end a pixel short of the band's, and hosts rely on the wheel
+        // standing still there.
         return;
     }
     m->column->move(m->column->x(), top + dy);
