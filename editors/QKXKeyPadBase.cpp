@@ -300,7 +300,6 @@ void QKXKeyPadBase::retranslate()
         {"cancel", &d->cancelText},
         {"clear", &d->clearText},
         {"enter", &d->enterText},
-        {"hexEnter", &d->enterText},
     };
     for (const auto &caption : captions) {
         if (QPushButton *button = d->buttons.value(QLatin1String(caption.key))) {
@@ -327,7 +326,9 @@ void QKXKeyPadBase::buttonSubmit()
 void QKXKeyPadBase::resetWidgets()
 {
     Q_D(QKXKeyPadBase);
-    QKXPopupChain::unchain(this, d->filter);
+    // Every connection between the two goes, whoever made it: a host hands edits to the pad through
+    // a receiver of its own, not by connecting a filter's editStart() to registerWidget().
+    QKXPopupChain::unchainAll(this, d->filter);
     for (QPushButton *button : qAsConst(d->buttons)) {
         button->setFocusProxy(nullptr);
     }

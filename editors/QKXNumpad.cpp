@@ -112,6 +112,13 @@ void QKXNumpadPrivate::pressKey(const QString &name, QPushButton *key)
         }
         entry->setText(text);
         mirror();
+    } else if (name == QLatin1String("dot") && dataType == kx_textType) {
+        // A dotted address has four parts at most.
+        if (entry->text().count(QLatin1Char('.')) > 2) {
+            return;
+        }
+        entry->insert(QStringLiteral("."));
+        mirror();
     } else if (name == QLatin1String("dot")) {
         const QString text = entry->text();
         if (text.contains(QLatin1Char('.'))) {
@@ -272,8 +279,12 @@ void QKXNumpad::registerWidget(QObject *filter, QWidget *widget)
         } else {
             QKXPopupChain::forward(this, filter, SIGNAL(submit(double,QString)));
         }
+    } else if (d->dataType == kx_textType) {
+        // A dotted address: digits and dots, no sign.
+        dot->setEnabled(true);
+        d->buttons.value(QStringLiteral("plmin"))->setEnabled(false);
+        connect(this, SIGNAL(submit(QString)), filter, SIGNAL(submit(QString)));
     } else {
-        // The dotted-address form ("TextString") joins here with the text family.
         qDebug() << "UserInterface - QKXNumpad attempting to register unknown data type:" << d->dataType
                  << "Widget:" << widget;
     }
@@ -338,6 +349,8 @@ void QKXNumpad::buttonSubmit()
         } else {
             emit submit(value);
         }
+    } else if (d->dataType == kx_textType) {
+        emit submit(d->entry->text());
     }
     emit done();
 }
@@ -379,7 +392,8 @@ void QKXNumpad::updateUnitButtons(QStringList names, QStringList unitStrings, QL
         } else {
             qDebug().noquote() << "UserInterface - Unit Button type should be QKXRichTextPushButton.";
         }
-        key->setObjectName(i == shown - 1 ? QStringLiteral("lastUnit") : QStringLiteral("unit"));
+        // The last unit of the list; with more units than keys, none of the keys is.
+        key->setObjectName(i == names.size() - 1 ? QStringLiteral("lastUnit") : QStringLiteral("unit"));
     }
     // Object names select the keys' looks: the sheet is applied again for the new names to count.
     setStyleSheet(styleSheet());

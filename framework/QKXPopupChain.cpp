@@ -42,3 +42,12 @@ void QKXPopupChain::unchain(QObject *popup, QObject *filter)
     QObject::disconnect(filter, SIGNAL(editEnd()), popup, SLOT(unregister()));
     QObject::disconnect(popup, nullptr, filter, nullptr);
 }
+
+void QKXPopupChain::unchainAll(QObject *popup, QObject *filter)
+{
+    if (!popup || !filter) {
+        return;
+    }
+    QObject::disconnect(filter, nullptr, popup, nullptr);
+    QObject::disconnect(popup, nullptr, filter, nullptr);
+}

@@ -27,6 +27,9 @@ public:
     // The same signature on both sides, the usual case.
     static bool forward(QObject *popup, QObject *filter, const char *signal);
     static void unchain(QObject *popup, QObject *filter);
+    // The key pads and the keyboard let go of the filter whole: every connection between the two
+    // goes, in both directions, whoever made it.
+    static void unchainAll(QObject *popup, QObject *filter);
 
 private:
     QKXPopupChain() = delete;

@@ -108,9 +108,7 @@ QPoint QKXPopupPlacement::besideWidget(const QWidget *popup, const QWidget *widg
             y = areaBottom - h;
         }
     }
-    // Only a popup larger than its area gets here: its keys start at the top-left, so those stay visible.
-    x = qMax(x, bounds.x());
-    y = qMax(y, bounds.y());
+    // A pad larger than its area hangs off its top and left edges: its place is the rule's, not clamped.
     return QPoint(x, y);
 }
 

@@ -49,6 +49,8 @@ public Q_SLOTS:
     virtual void changeSize(const QString &size);
     virtual QObject *getEventFilter() const;
     virtual void setEventFilter(QObject *filter);
+    // The switch's line names the window in double quotes and ends without a blank, so that log
+    // readers can match it whole.
     virtual void supressClicked(QMouseEvent *event);
     virtual QLabel *label();
     virtual void setLabel(QLabel *label);

@@ -10,8 +10,9 @@
 #include <QLabel>
 #include <QLineEdit>
 
-// Decimals beyond this say nothing about a double and would only grow the text without bound.
-static constexpr int kx_maxShownDecimals = 64;
+// A double has no digit beyond its 1074th decimal, so more decimals only add zeros; Qt's formatter
+// gives up altogether on the largest counts a form could write.
+static constexpr int kx_maxShownDecimals = 1074;
 
 static QString kx_quoted(const QString &text)
 {
@@ -109,12 +110,16 @@ int QKXNumericPrivate::precision() const
     return precisionValue;
 }
 
+QString QKXNumericPrivate::decimalText(double value, int precision)
+{
+    return QString::number(value, 'f', qMin(precision, kx_maxShownDecimals));
+}
+
 void QKXNumericPrivate::setPrecision(int precision)
 {
-    if (precision < 0 || precision > kx_maxShownDecimals) {
+    if (precision > kx_maxShownDecimals) {
         qDebug().noquote() << "UserInterface - QKXNumeric" << kx_quoted(attributeNameValue)
-                           << "precision" << precision << "out of range, showing"
-                           << qBound(0, precision, kx_maxShownDecimals) << "decimals";
+                           << "precision" << precision << "out of range, showing" << kx_maxShownDecimals << "decimals";
     }
     precisionValue = precision;
     if (!editingValue) {
@@ -184,7 +189,7 @@ void QKXNumericPrivate::setValueText(double value)
 {
     const int radix = kxnumber::radixOf(int(base));
     if (radix == 10) {
-        lineEdit->setText(QString::number(value, 'f', qBound(0, precisionValue, kx_maxShownDecimals)));
+        lineEdit->setText(decimalText(value, precisionValue));
         return;
     }
     if (!kxnumber::fitsInt(value)) {

@@ -171,18 +171,16 @@ QString QKXNumericValueObjEventFilter::getUnitString() const
     if (!widget || !d->unitLabel) {
         return QString();
     }
-    // The label shows the unit after display processing; the selector's Text is the unit as listed.
+    // Matched against the text the label shows: a unit text that display processing or a translation
+    // changes names no unit, and the value goes out with an empty unit string.
     const QString shown = d->unitLabel->text();
-    const QWidget *unitSelector = d->selector();
-    const QString listed = unitSelector ? unitSelector->property("Text").toString() : QString();
     const QVariantList units = widget->property("UnitList").toList();
     for (const QVariant &entry : units) {
         const QVariantList fields = entry.toList();
         if (fields.size() < 4) {
             continue;
         }
-        const QString unit = fields.at(1).toString();
-        if (unit == shown || (!listed.isEmpty() && unit == listed)) {
+        if (fields.at(1).toString() == shown) {
             return fields.at(3).toString();
         }
     }

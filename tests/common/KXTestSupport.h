@@ -14,8 +14,9 @@
 
 namespace kxtest {
 
-// Collects the library's "UserInterface - " lines while it lives; everything else goes on to the
-// handler that was there before.
+// Collects the library's diagnostic lines while it lives: debug and warning messages that begin
+// "UserInterface - ", or "Userinterface - " as a few lines hosts filter on are spelt. Everything else
+// goes on to the handler that was there before.
 class DebugLines
 {
 public:
@@ -33,13 +34,18 @@ public:
 private:
     static QtMessageHandler &previous() { static QtMessageHandler handler = nullptr; return handler; }
     static bool &all() { static bool everything = false; return everything; }
+    static bool isLibraryLine(QtMsgType type, const QString &msg)
+    {
+        return (type == QtDebugMsg || type == QtWarningMsg)
+            && (msg.startsWith(QLatin1String("UserInterface - ")) || msg.startsWith(QLatin1String("Userinterface - ")));
+    }
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &msg)
     {
         if (type == QtDebugMsg && all()) {
             lines() << msg;
             return;
         }
-        if (type == QtDebugMsg && msg.startsWith(QLatin1String("UserInterface - "))) {
+        if (isLibraryLine(type, msg)) {
             QString line = msg;
             while (line.endsWith(QLatin1Char(' ')))   // a trailing blank is the stream's business
                 line.chop(1);
