@@ -1,8 +1,8 @@
 #include "MainWindow.h"
 
 #include "EditLockOwner.h"
-#include "HostWiring.h"
-#include "ScreenForms.h"
+#include "PanelHost.h"
+#include "PanelScreen.h"
 #include "ScreenList.h"
 #include "SettingsFolder.h"
 #include "SimpleFileBrowser.h"
@@ -61,7 +61,7 @@ MainWindow::MainWindow(SimulatedEngine *engine, QWidget *parent)
     : QMainWindow(parent)
     , simulatedEngine(engine)
     , editLock(new EditLockOwner(this))
-    , hostWiring(new HostWiring(engine, editLock, this))
+    , panelHost(new PanelHost(engine, editLock, this))
     , top(new TopContainer(this))
     , strip(new StatusStrip(top))
     , screenList(new ScreenList(top))
@@ -79,14 +79,16 @@ MainWindow::MainWindow(SimulatedEngine *engine, QWidget *parent)
     setCentralWidget(top);
 
     connect(editLock, &EditLockOwner::logged, simulatedEngine, &SimulatedEngine::appendLog);
-    connect(hostWiring, &HostWiring::guiLockedMessageRequested, this, &MainWindow::showGuiLockedNotice);
+    connect(panelHost, &PanelHost::guiLockedMessageRequested, this, &MainWindow::showGuiLockedNotice);
+    connect(panelHost, &PanelHost::noticeRequested, strip,
+            [this](const QString &text, StatusStrip::NoticeKind kind) { strip->showNotice(text, kind); });
     connect(simulatedEngine, &SimulatedEngine::commandExecuted, strip,
             [this](const QString &name) { strip->showNotice(tr("%1 sent").arg(name)); });
     connect(screenList, &ScreenList::currentScreenChanged, strip,
             [this](int index) { strip->setTitle(screenList->screenTitle(index)); });
     connect(strip, &StatusStrip::displayModeChanged, this, [this] {
         for (int i = 0; i < screenList->count(); ++i) {
-            HostWiring::applySizeVariant(screenList->screen(i));
+            PanelHost::applySizeVariant(screenList->screen(i));
         }
     });
 
@@ -110,12 +112,16 @@ MainWindow::~MainWindow() = default;
 
 void MainWindow::buildScreens()
 {
-    const QVector<ScreenForm> forms = screenForms();
-    for (const ScreenForm &form : forms) {
-        QWidget *page = form.build();
-        screenList->addScreen(form.id, page->windowTitle(), page);
-        hostWiring->wireScreen(page);
-        HostWiring::applySizeVariant(page);
+    screenObjects = createPanelScreens();
+    // Every screen's attributes first: a screen's widgets may stand for another screen's attribute.
+    for (const std::unique_ptr<PanelScreen> &screen : screenObjects) {
+        screen->addAttributes(*simulatedEngine);
+    }
+    for (const std::unique_ptr<PanelScreen> &screen : screenObjects) {
+        QWidget *page = screen->buildPage();
+        screenList->addScreen(screen->id(), page->windowTitle(), page);
+        panelHost->wireScreen(screen.get());
+        PanelHost::applySizeVariant(page);
     }
     screenList->setCurrentIndex(0);
     strip->setTitle(screenList->screenTitle(screenList->currentIndex()));
@@ -138,9 +144,28 @@ EditLockOwner *MainWindow::lockOwner() const
     return editLock;
 }
 
-HostWiring *MainWindow::wiring() const
+PanelHost *MainWindow::host() const
 {
-    return hostWiring;
+    return panelHost;
+}
+
+QList<PanelScreen *> MainWindow::panelScreens() const
+{
+    QList<PanelScreen *> screens;
+    for (const std::unique_ptr<PanelScreen> &screen : screenObjects) {
+        screens.append(screen.get());
+    }
+    return screens;
+}
+
+PanelScreen *MainWindow::panelScreen(const QString &id) const
+{
+    for (const std::unique_ptr<PanelScreen> &screen : screenObjects) {
+        if (screen->id() == id) {
+            return screen.get();
+        }
+    }
+    return nullptr;
 }
 
 ScreenList *MainWindow::screens() const

@@ -3,8 +3,12 @@
 
 #include <QMainWindow>
 
+#include <memory>
+#include <vector>
+
 class EditLockOwner;
-class HostWiring;
+class PanelHost;
+class PanelScreen;
 class ScreenList;
 class SimulatedEngine;
 class StatusStrip;
@@ -12,7 +16,8 @@ class TopContainer;
 
 // The panel's one window, 800 x 480: the status strip, the current screen and the screen tabs,
 // inside the top container. It registers itself with the host as the "MainWindow" screen and as the
-// desktop, owns the edit lock and the wiring, and binds every screen's widgets to the engine.
+// desktop, owns the edit lock and the host duties, and builds and wires every screen of the list in
+// PanelScreens.cpp.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -25,8 +30,11 @@ public:
 
     SimulatedEngine *engine() const;
     EditLockOwner *lockOwner() const;
-    HostWiring *wiring() const;
+    PanelHost *host() const;
     ScreenList *screens() const;
+    // The screens in tab order, and the one with the id (null for none).
+    QList<PanelScreen *> panelScreens() const;
+    PanelScreen *panelScreen(const QString &id) const;
     StatusStrip *statusStrip() const;
     TopContainer *topContainer() const;
 
@@ -36,10 +44,11 @@ private:
 
     SimulatedEngine *simulatedEngine;
     EditLockOwner *editLock;
-    HostWiring *hostWiring;
+    PanelHost *panelHost;
     TopContainer *top;
     StatusStrip *strip;
     ScreenList *screenList;
+    std::vector<std::unique_ptr<PanelScreen>> screenObjects;
 };
 
 #endif // MAINWINDOW_H
