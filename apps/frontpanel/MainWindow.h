@@ -1,7 +1,10 @@
 #ifndef MAINWINDOW_H
 #define MAINWINDOW_H
 
+#include <QHash>
 #include <QMainWindow>
+#include <QMargins>
+#include <QVector>
 
 #include <memory>
 #include <vector>
@@ -14,16 +17,17 @@ class SimulatedEngine;
 class StatusStrip;
 class TopContainer;
 
-// The panel's one window, 800 x 480: the status strip, the current screen and the screen tabs,
-// inside the top container. It registers itself with the host as the "MainWindow" screen and as the
-// desktop, owns the edit lock and the host duties, and builds and wires every screen of the list in
-// PanelScreens.cpp.
+// The panel's one window, 800 x 480 (480 x 800 in the portrait display mode): the status strip, the
+// current screen and the screen tabs, inside the top container. It registers itself with the host as
+// the "MainWindow" screen and as the desktop, owns the edit lock and the host duties, and builds and
+// wires every screen of the list in PanelScreens.cpp. In portrait, sections that a screen's form
+// sets side by side are stacked.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 public:
-    static constexpr int PanelWidth = 800;
-    static constexpr int PanelHeight = 480;
+    // The panel's size in the display mode.
+    static QSize panelSize(const QString &displayMode);
 
     explicit MainWindow(SimulatedEngine *engine, QWidget *parent = nullptr);
     ~MainWindow() override;
@@ -40,6 +44,8 @@ public:
 
 private:
     void buildScreens();
+    // The window's size and the pages' arrangement for the display mode in force.
+    void fitDisplayMode();
     void showGuiLockedNotice(QWidget *widget);
 
     SimulatedEngine *simulatedEngine;
@@ -49,6 +55,13 @@ private:
     StatusStrip *strip;
     ScreenList *screenList;
     std::vector<std::unique_ptr<PanelScreen>> screenObjects;
+    struct FormArrangement {
+        bool sideBySide = false;
+        QMargins margins;
+        int spacing = 0;
+        QVector<int> stretches;
+    };
+    QHash<QWidget *, FormArrangement> formArrangements;
 };
 
 #endif // MAINWINDOW_H

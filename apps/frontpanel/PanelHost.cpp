@@ -98,7 +98,16 @@ bool PanelHost::wire(QKXWidgetBase *widget, const std::function<QKXEventFilterBa
 
 SimulatedEngine::Answer PanelHost::request(QWidget *widget, const QVariant &value)
 {
-    return simulatedEngine->requestValue(WidgetNaming::boundAttribute(widget), value);
+    const QString attribute = WidgetNaming::boundAttribute(widget);
+    const SimulatedEngine::Answer answer = simulatedEngine->requestValue(attribute, value);
+    if (answer == SimulatedEngine::Clamped) {
+        // The field shows the value the engine kept, right beside the one the user typed away.
+        const QString caption = WidgetNaming::caption(widget);
+        showNotice(value.toDouble() > simulatedEngine->upperLimit(attribute) ? tr("%1 set to its upper limit").arg(caption)
+                                                                              : tr("%1 set to its lower limit").arg(caption),
+                   StatusStrip::Warning);
+    }
+    return answer;
 }
 
 void PanelHost::followValue(QWidget *widget, std::function<void(const QVariant &)> show)

@@ -80,7 +80,8 @@ public:
         connect(filter, submit, this,
                 [this, widget](Value value) { request(widget, QVariant::fromValue(std::decay_t<Value>(value))); });
     }
-    // Asks the engine for the value of the widget's attribute.
+    // Asks the engine for the value of the widget's attribute. A value the engine holds to one of its
+    // limits gets a notice: the field changes to a number the user did not type, and says so.
     SimulatedEngine::Answer request(QWidget *widget, const QVariant &value);
 
     // Shows the engine's value of the widget's attribute now and whenever it changes or is confirmed.

@@ -5,6 +5,7 @@
 #include "PanelScreen.h"
 #include "ScreenList.h"
 #include "ScreenRunner.h"
+#include "SimpleFileBrowser.h"
 #include "SimulatedEngine.h"
 #include "StatusStrip.h"
 #include "TopContainer.h"
@@ -17,13 +18,18 @@
 #include "SystemModule.h"
 
 #include <QApplication>
+#include <QBoxLayout>
 #include <QDir>
 #include <QImage>
+#include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScopedPointer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <cmath>
 
 class tst_FrontPanelHost : public QObject
 {
@@ -39,6 +45,10 @@ private slots:
     void guiLockedTapGivesNoticeOnly();
     void badBindings();
     void statusStripSwitchesWriteAndFollowProperties();
+    void panelFitsEveryDisplayMode_data();
+    void panelFitsEveryDisplayMode();
+    void progressFillStandsOutOfItsGroove();
+    void settingsFileShownOnOneLine();
     void scriptedSessionTapsAndRenders();
 
 private:
@@ -173,6 +183,8 @@ void tst_FrontPanelHost::tapSendsCommandOnceAndFreesLock()
                                QStringLiteral("lock released RfOff")};
     QCOMPARE(engine->log(), rfOff);
     QCOMPARE(engine->value(QStringLiteral("RfOutput")), QVariant(false));
+    // The notice names the command as its button does, not by the engine's name for it.
+    QCOMPARE(window->statusStrip()->notice(), QStringLiteral("RF off sent"));
 
     // A drag that starts on the button and leaves it is not a tap.
     engine->clearLog();
@@ -322,6 +334,86 @@ void tst_FrontPanelHost::statusStripSwitchesWriteAndFollowProperties()
     QTest::ignoreMessage(QtWarningMsg, "frontpanel: unknown display mode huge");
     QVERIFY(!AppProperties::setDisplayMode(QStringLiteral("huge")));
     QCOMPARE(qApp->property("-size").toString(), QStringLiteral("normal"));
+}
+
+void tst_FrontPanelHost::panelFitsEveryDisplayMode_data()
+{
+    QTest::addColumn<QString>("mode");
+    QTest::addColumn<int>("extraScreens");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("tabRows");
+    QTest::newRow("normal") << "normal" << 0 << QSize(800, 480) << 1;
+    QTest::newRow("normal, ten screens") << "normal" << 5 << QSize(800, 480) << 2;
+    QTest::newRow("portrait") << "small_portrait" << 0 << QSize(480, 800) << 2;
+    QTest::newRow("portrait, ten screens") << "small_portrait" << 5 << QSize(480, 800) << 4;
+}
+
+void tst_FrontPanelHost::panelFitsEveryDisplayMode()
+{
+    QFETCH(QString, mode);
+    QFETCH(int, extraScreens);
+    QFETCH(QSize, size);
+    QFETCH(int, tabRows);
+    for (int i = 0; i < extraScreens; ++i) {
+        window->screens()->addScreen(QStringLiteral("extra"), QStringLiteral("Commands"), new QWidget);
+    }
+    // Switched while running, as the strip's size key does.
+    AppProperties::setDisplayMode(mode);
+    settle();
+    QCOMPARE(window->size(), size);
+    const bool portrait = size.height() > size.width();
+    QCOMPARE(qobject_cast<QBoxLayout *>(commandsScreen()->layout())->direction(),
+             portrait ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    QCOMPARE(window->screens()->tabRowCount(), tabRows);
+    // Every key of the strip and every tab lies on the panel, wide enough for its text.
+    QList<QPushButton *> keys = window->findChildren<QPushButton *>(QStringLiteral("ScreenTab"));
+    keys << window->statusStrip()->findChildren<QPushButton *>();
+    for (QPushButton *key : qAsConst(keys)) {
+        const QRect onPanel(key->mapTo(window.data(), QPoint()), key->size());
+        QVERIFY2(window->rect().contains(onPanel) && key->width() >= key->sizeHint().width(), qPrintable(key->text()));
+    }
+}
+
+void tst_FrontPanelHost::progressFillStandsOutOfItsGroove()
+{
+    auto *progress = window->findChild<QWidget *>(QStringLiteral("sweepProgress"));
+    QVERIFY(progress);
+    engine->setValue(QStringLiteral("SweepProgress"), 50);
+    window->screens()->setCurrentIndex(window->screens()->indexOfScreenHolding(progress));
+    settle();
+    auto *bar = progress->findChild<QProgressBar *>();
+    const QImage image = bar->grab().toImage();
+    // Beside the percentage in the middle: filled at a quarter, empty at three quarters.
+    const int y = image.height() / 2;
+    const auto luminance = [](QRgb rgb) {
+        const auto linear = [](int c) {
+            const double v = c / 255.0;
+            return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(qRed(rgb)) + 0.7152 * linear(qGreen(rgb)) + 0.0722 * linear(qBlue(rgb));
+    };
+    const double fill = luminance(image.pixel(image.width() / 4, y));
+    const double groove = luminance(image.pixel(image.width() * 3 / 4, y));
+    QVERIFY2((qMax(fill, groove) + 0.05) / (qMin(fill, groove) + 0.05) >= 3.0,
+             qPrintable(QStringLiteral("fill %1, groove %2").arg(fill).arg(groove)));
+}
+
+void tst_FrontPanelHost::settingsFileShownOnOneLine()
+{
+    auto *label = window->findChild<QLabel *>(QStringLiteral("settingsFileLabel"));
+    auto *browser = window->findChild<SimpleFileBrowser *>();
+    QVERIFY(label && browser);
+    window->screens()->setCurrentIndex(window->screens()->indexOfScreenHolding(label));
+    settle();
+    // Below the settings folder the browser shows, the path from there; elsewhere, a long name is
+    // shortened to the label's width.
+    engine->setValue(QStringLiteral("SettingsFile"), QString(browser->rootPath() + QStringLiteral("/archive/bench-2025.cfg")));
+    QCOMPARE(label->text(), QStringLiteral("archive/bench-2025.cfg"));
+    const QString longName = QStringLiteral("/media/usb/%1.cfg").arg(QString(60, QLatin1Char('x')));
+    engine->setValue(QStringLiteral("SettingsFile"), longName);
+    QVERIFY(label->text().contains(QChar(0x2026)));
+    QVERIFY(label->text().endsWith(QLatin1String("x.cfg")));
+    QVERIFY(label->fontMetrics().horizontalAdvance(label->text()) <= label->contentsRect().width());
 }
 
 void tst_FrontPanelHost::scriptedSessionTapsAndRenders()

@@ -24,6 +24,10 @@
 #include "QKXToggleButtonEventFilter.h"
 #include "SystemModule.h"
 
+#include <QDir>
+#include <QEvent>
+#include <QFileInfo>
+#include <QLabel>
 #include <QMetaObject>
 #include <QPushButton>
 #include <QTimer>
@@ -48,9 +52,69 @@ void SwitchesScreen::addAttributes(SimulatedEngine &engine)
     engine.addCommand(QStringLiteral("SaveTrace"), tr("Save trace"));
 }
 
+namespace {
+
+// The settings file under the browse button, on one line: its path below the settings folder the
+// browser shows (most often just its name), shortened in the middle when even that does not fit.
+// The full path would wrap over several lines of the narrow section.
+class SettingsFileLine : public QObject
+{
+public:
+    SettingsFileLine(QLabel *label, QKXBrowseButton *button)
+        : QObject(label)
+        , label(label)
+    {
+        // Ignored: a long name must not widen the section; it is shortened instead.
+        label->setSizePolicy(QSizePolicy::Ignored, label->sizePolicy().verticalPolicy());
+        label->installEventFilter(this);
+        connect(button, &QKXBrowseButton::filenameChanged, this, [this](const QString &path) {
+            shown = nameBelowSettingsFolder(path);
+            fit();
+        });
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == label && event->type() == QEvent::Resize && !shown.isEmpty()) {
+            fit();
+        }
+        return false;
+    }
+
+private:
+    static QString nameBelowSettingsFolder(const QString &path)
+    {
+        auto *browser = qobject_cast<SimpleFileBrowser *>(
+            GlobalImpl::getInstance()->systemModule()->getSystemScreen(QStringLiteral("SimpleFileBrowser")));
+        const QString root = browser ? QDir(browser->rootPath()).absolutePath() : QString();
+        const QString file = QFileInfo(path).absoluteFilePath();
+        if (!root.isEmpty() && file.startsWith(root + QLatin1Char('/'))) {
+            return file.mid(root.size() + 1);
+        }
+        return QFileInfo(path).fileName();
+    }
+
+    void fit()
+    {
+        label->setText(label->fontMetrics().elidedText(shown, Qt::ElideMiddle, label->contentsRect().width()));
+    }
+
+    QLabel *label;
+    QString shown;
+};
+
+} // namespace
+
 QWidget *SwitchesScreen::createPage()
 {
-    return formPage<Ui::SwitchesScreen>();
+    QWidget *page = formPage<Ui::SwitchesScreen>();
+    auto *label = page->findChild<QLabel *>(QStringLiteral("settingsFileLabel"));
+    auto *button = page->findChild<QKXBrowseButton *>(QStringLiteral("loadSettingsButton"));
+    if (label && button) {
+        new SettingsFileLine(label, button);
+    }
+    return page;
 }
 
 // A toggle asks for the opposite state and waits in its loading look until the engine confirms.
