@@ -22,6 +22,9 @@ class SimulatedEngine;
 //   1. addAttributes() of every screen, so that any screen's widgets may show any screen's attribute;
 //   2. for each screen in tab order: createPage(), then wire() on the page, then the size variants;
 //   3. in a headless run, after every screen has been rendered: play() of each screen in tab order.
+// A page gets the window's width (800, or 480 in portrait) and what the status strip and the tabs
+// leave of its height: about 380 pixels with one row of tabs, 48 fewer for each further row. In
+// portrait, the sections that the form's top box layout sets side by side are stacked.
 class PanelScreen : public QObject
 {
     Q_OBJECT
