@@ -22,6 +22,8 @@ private:
 private slots:
     void pluginLoaderHandsOutOneCollection();
     void pushButtonPluginDescribesTheWidget();
+    void sliderPluginsDescribeTheirWidgets_data();
+    void sliderPluginsDescribeTheirWidgets();
     void initializeIsIdempotent();
     void createWidgetBuildsAParentlessWidget();
     void verificationTextIsExported();
@@ -79,6 +81,33 @@ void tst_KXWidgets::pushButtonPluginDescribesTheWidget()
     QCOMPARE(plugin->domXml(), QStringLiteral("<widget class=\"QKXPushButton\" name=\"QKXPushButton\">\n</widget>\n"));
     QCOMPARE(dynamic_cast<QObject *>(plugin)->objectName(), QStringLiteral("QKXPushButtonPlugin"));
     QVERIFY(!plugin->isInitialized());
+}
+
+void tst_KXWidgets::sliderPluginsDescribeTheirWidgets_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("whatsThis");
+    QTest::addColumn<QString>("domXml");
+
+    QTest::newRow("horizontal") << "QKXSliderHorizontal" << "Horizontal Slider"
+                                << "<widget class=\"QKXSliderHorizontal\" name=\"QKXSliderHorizontal\">\n</widget>\n";
+    // Forms name a new vertical slider as they always have.
+    QTest::newRow("vertical") << "QKXSliderVertical" << "Vertical Slider"
+                              << "<widget class=\"QKXSliderVertical\" name=\"QKXSliderVertial\">\n</widget>\n";
+}
+
+void tst_KXWidgets::sliderPluginsDescribeTheirWidgets()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, whatsThis);
+    QFETCH(QString, domXml);
+
+    QObject owner;
+    QDesignerCustomWidgetInterface *plugin = pluginNamed(name, &owner);
+    QVERIFY(plugin);
+    QCOMPARE(plugin->whatsThis(), whatsThis);
+    QCOMPARE(plugin->domXml(), domXml);
+    QCOMPARE(plugin->includeFile(), name + QStringLiteral(".h"));
 }
 
 void tst_KXWidgets::initializeIsIdempotent()
