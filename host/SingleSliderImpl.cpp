@@ -40,7 +40,7 @@ QPushButton:pressed { background-color: white; color: black; }
 QPushButton#SliderCancel { border-left: 1px solid white; border-top-left-radius: 10px; border-bottom-left-radius: 10px; }
 QPushButton#SliderEnter { border-top-right-radius: 10px; border-bottom-right-radius: 10px; background-color: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 rgba(0,255,0,170), stop:1 rgba(0,255,0,50)); }
 QPushButton#SliderEnter:pressed { background-color: #0b0; }
-QPushButton#PowerUp:disabled, QPushButton#PowerDown:disabled { color: #777; }
+QPushButton#StepUp, QPushButton#StepDown { font-size: 28px; }
 QPushButton#RotateEntry { border: none; background-color: transparent; border-image: url(:/images/rotateEntry.png); }
 QPushButton#RotateEntry:pressed { background-color: transparent; border-image: url(:/images/rotateEntryPressed.png); }
 )").arg(CSS::border());
@@ -80,7 +80,7 @@ SingleSliderImpl::SingleSliderImpl(QWidget *parent, double value, double minimum
     } keys[] = {
         {"SliderCancel", tr("Cancel")},
         {"PowerDown", tr("/10")},
-        {"StepDown", tr("-")},
+        {"StepDown", tr("−")},
         {"StepUp", tr("+")},
         {"PowerUp", tr("x10")},
         {"SliderEnter", tr("Enter")},
