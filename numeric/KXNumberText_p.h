@@ -8,6 +8,7 @@
 // and the numeric editors.
 //
 
+#include <QDebug>
 #include <QMetaObject>
 #include <QObject>
 #include <QString>
@@ -49,6 +50,30 @@ inline int radixOf(const QVariant &base)
     bool ok = false;
     const int radix = base.toInt(&ok);
     return ok && (radix == 16 || radix == 8 || radix == 2) ? radix : 10;
+}
+
+// How the debug lines name a numeric widget: its class and the object name its form gave it.
+inline QString named(const QObject *widget)
+{
+    return QString::fromLatin1(widget->metaObject()->className()) + QStringLiteral(" \"") + widget->objectName()
+        + QLatin1Char('"');
+}
+
+// Reports an edit that starts with limits no value lies between (LowerLimit above UpperLimit, or
+// either not a number). The limit setters stay silent: forms and hosts set the limits one at a time
+// and pass through such pairs on the way to a good one, so only an edit shows the pair is meant.
+inline void reportEmptyRange(const QObject *widget)
+{
+    if (!widget) {
+        return;
+    }
+    const QVariant lower = widget->property("LowerLimit");
+    const QVariant upper = widget->property("UpperLimit");
+    if (!lower.isValid() || !upper.isValid() || lower.toDouble() <= upper.toDouble()) {
+        return;
+    }
+    qDebug().noquote() << "UserInterface -" << named(widget) << "edit starts with limits no value lies between:"
+                       << "LowerLimit" << lower.toDouble() << "UpperLimit" << upper.toDouble();
 }
 
 enum class StartValueType { Integer, Double, Other };

@@ -172,6 +172,7 @@ void QKXNumericEventFilter::attempLockSendLockSignal(QWidget *widget, bool locke
 void QKXNumericEventFilter::rememberValue()
 {
     Q_D(QKXNumericEventFilter);
+    kxnumber::reportEmptyRange(parent());
     using kxnumber::StartValueType;
     const StartValueType type = d->dataType == kx_intType      ? StartValueType::Integer
                                 : d->dataType == kx_doubleType ? StartValueType::Double

@@ -17,6 +17,8 @@
 #include <QScopedValueRollback>
 #include <QStyle>
 
+#include <cmath>
+
 using Norvane::Value::Units;
 
 const QString QKXNumericValueObjPrivate::neutralUnitString = QStringLiteral("0,0,0:0;0:0;0:0;0:0;0:0");
@@ -209,6 +211,9 @@ void QKXNumericValueObjPrivate::emitValueSignals(double value, double shown)
 void QKXNumericValueObjPrivate::setValue(double value)
 {
     const double shown = displayValue(value);
+    if (!showable(value, shown)) {
+        return;
+    }
     // The numeric field shows (and its plain signals carry) the converted number; the widget keeps
     // the engine's number, so that value() and a cancel answer in the base unit.
     QKXNumericPrivate::setValue(shown);
@@ -220,6 +225,9 @@ void QKXNumericValueObjPrivate::setValue(const int &value)
 {
     const double shown = convertsUnitsValue ? ValueHelper::convertValue(long(value), baseUnits, currentUnits)
                                             : double(value);
+    if (!showable(value, shown)) {
+        return;
+    }
     QKXNumericPrivate::setValue(shown);
     currentValue = value;
     emitValueSignals(value, shown);
@@ -231,7 +239,7 @@ bool QKXNumericValueObjPrivate::takeBaseUnit(const QString &unit, const QString 
         return true;
     }
     if (!ValueHelper::isValidUnits(unit)) {
-        qDebug().noquote() << "UserInterface - QKXNumericValueObj" << kxunits_quoted(attributeNameValue) << "got"
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q) << "got"
                            << valueText << "in" << kxunits_quoted(unit) << "which is no units string - display kept";
         return false;
     }
@@ -240,7 +248,7 @@ bool QKXNumericValueObjPrivate::takeBaseUnit(const QString &unit, const QString 
     baseUnits = ValueHelper::convertToUnits(unit);
     populateList();
     if (hadList && groupMode != QKXNumericValueObj::None && offeredIndexes == QList<int>{-1}) {
-        qDebug().noquote() << "UserInterface - QKXNumericValueObj" << kxunits_quoted(attributeNameValue)
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q)
                            << "no unit of its list converts to"
                            << kxunits_quoted(ValueHelper::getUnitString(baseUnits))
                            << "- only the base unit is offered";
@@ -250,7 +258,8 @@ bool QKXNumericValueObjPrivate::takeBaseUnit(const QString &unit, const QString 
 
 void QKXNumericValueObjPrivate::setValue(const double &value, const QString &unit)
 {
-    if (takeBaseUnit(unit, QString::number(value, 'g', 12))) {
+    // A value with no number to show changes nothing, its unit included.
+    if (showable(value, value) && takeBaseUnit(unit, QString::number(value, 'g', 12))) {
         setValue(value);
     }
 }
@@ -291,7 +300,7 @@ void QKXNumericValueObjPrivate::setUnitListString(const QString &list)
         if (!ValueHelper::isValidUnits(part)) {
             // One bad part makes the whole list suspect: the field falls back to its base unit.
             if (!list.isEmpty()) {
-                qDebug().noquote() << "UserInterface - QKXNumericValueObj" << kxunits_quoted(attributeNameValue)
+                qDebug().noquote() << "UserInterface -" << kxnumber::named(q)
                                    << "unit list part" << kxunits_quoted(part)
                                    << "is no units string - only the base unit is offered";
             }
@@ -327,7 +336,7 @@ QString QKXNumericValueObjPrivate::baseUnit() const
 void QKXNumericValueObjPrivate::setBaseUnit(const QString &unit)
 {
     if (!ValueHelper::isValidUnits(unit)) {
-        qDebug().noquote() << "UserInterface - QKXNumericValueObj" << kxunits_quoted(attributeNameValue)
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q)
                            << "base unit" << kxunits_quoted(unit) << "is no units string";
     }
     const bool showingBase = unitIndexValue < 0;
@@ -431,7 +440,7 @@ void QKXNumericValueObjPrivate::selectUnitIndex(int index)
         return;
     }
     if (!offeredIndexes.contains(index) && !(index == -1 && offeredIndexes.isEmpty())) {
-        qDebug().noquote() << "UserInterface - QKXNumericValueObj" << kxunits_quoted(attributeNameValue)
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q)
                            << "offers no unit" << index << "- unit kept";
         if (unitSelector->currentIndex() != unitIndexValue && offeredIndexes.contains(unitIndexValue)) {
             // Someone turned the selector itself: it goes back to the unit in use.
@@ -454,7 +463,13 @@ void QKXNumericValueObjPrivate::selectUnitIndex(int index)
 
     // Rewritten from the stored engine value, never from the text: the text is rounded.
     const double shown = displayValue(currentValue);
-    if (kxnumber::radixOf(int(base)) == 10) {
+    if (!std::isfinite(shown)) {
+        // The stored value is good but has no number in this unit (0 W in dBm): any number left in
+        // the field would now read as one in the new unit.
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q) << "has no number for" << currentValue << "in"
+                           << kxunits_quoted(ValueHelper::getUnitString(currentUnits)) << "- display emptied";
+        lineEdit->clear();
+    } else if (kxnumber::radixOf(int(base)) == 10) {
         const bool hadDecimals = lineEdit->text().contains(QLatin1Char('.'));
         lineEdit->setText(QString::number(shown, 'f', hadDecimals ? qBound(0, precisionValue, 64) : 0));
     } else {

@@ -286,6 +286,7 @@ void QKXNumericValueObjEventFilter::attempLockSendLockSignal(QWidget *widget, bo
 void QKXNumericValueObjEventFilter::rememberValue()
 {
     Q_D(QKXNumericValueObjEventFilter);
+    kxnumber::reportEmptyRange(parent());
     d->unitString = getUnitString();
     using kxnumber::StartValueType;
     const StartValueType type = d->dataType == kx_valueLongType      ? StartValueType::Integer

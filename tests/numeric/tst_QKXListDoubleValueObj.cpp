@@ -72,7 +72,7 @@ void tst_QKXListDoubleValueObj::init()
     window->setObjectName(QStringLiteral("MainWindow"));
     GlobalImpl::getInstance()->setDesktop(window.data());
     field = new QKXListDoubleValueObj(window.data());
-    field->setAttributeName(QStringLiteral("Bandwidth"));
+    field->setObjectName(QStringLiteral("Bandwidth"));
     field->setGeometry(40, 40, 200, 60);
     field->setBaseUnit(hertz());
     field->setUnitListString(frequencyUnits());
