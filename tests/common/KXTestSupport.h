@@ -14,14 +14,20 @@
 
 namespace kxtest {
 
-// Collects the library's "UserInterface - " lines while it lives; everything else goes on to the
-// handler that was there before.
+// Collects the library's "UserInterface - " lines while it lives, and every warning (Qt's own too)
+// in warnings(); everything but the library's lines goes on to the handler that was there before.
 class DebugLines
 {
 public:
-    DebugLines() { previous() = qInstallMessageHandler(&DebugLines::handle); lines().clear(); }
+    DebugLines()
+    {
+        previous() = qInstallMessageHandler(&DebugLines::handle);
+        lines().clear();
+        warnings().clear();
+    }
     ~DebugLines() { qInstallMessageHandler(previous()); }
     static QStringList &lines() { static QStringList all; return all; }
+    static QStringList &warnings() { static QStringList all; return all; }
 
 private:
     static QtMessageHandler &previous() { static QtMessageHandler handler = nullptr; return handler; }
@@ -34,6 +40,8 @@ private:
             lines() << line;
             return;
         }
+        if (type == QtWarningMsg || type == QtCriticalMsg)
+            warnings() << msg;
         if (previous())
             previous()(type, context, msg);
     }
