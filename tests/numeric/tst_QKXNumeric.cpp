@@ -150,7 +150,6 @@ void tst_QKXNumeric::styles_data()
                                         "background-position: top right;    background-repeat: no-repeat;}");
     const QString readOnly = QStringLiteral("QLineEdit:disabled {    border-color: ") + CSS::border() + QStringLiteral(";}");
     QTest::newRow("min") << false << false << "Min" << small;
-    QTest::newRow("min locked") << true << false << "Min" << small + lock;
     QTest::newRow("max locked and read-only") << true << true << "Max" << large + lock + readOnly;
 }
 
