@@ -109,8 +109,8 @@ int QKXNumericPrivate::precision() const
 void QKXNumericPrivate::setPrecision(int precision)
 {
     if (precision < 0 || precision > kx_maxShownDecimals) {
-        qDebug().noquote() << "UserInterface -" << kxnumber::named(q) << "precision" << precision << "out of range, showing"
-                           << qBound(0, precision, kx_maxShownDecimals) << "decimals";
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q) << "precision" << precision
+                           << "out of range, showing" << qBound(0, precision, kx_maxShownDecimals) << "decimals";
     }
     precisionValue = precision;
     if (!editingValue) {
@@ -213,7 +213,8 @@ void QKXNumericPrivate::setValueText(double value)
     }
     if (!kxnumber::fitsInt(value)) {
         // A radix display has no text for it; a made-up number would be read as the engine's.
-        qDebug().noquote() << "UserInterface -" << kxnumber::named(q) << "cannot show" << value << "in base" << radix << "- display kept";
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q) << "cannot show" << value << "in base" << radix
+                           << "- display kept";
         return;
     }
     // The sign is written out: QString::number() shows negatives of other bases as two's complement.

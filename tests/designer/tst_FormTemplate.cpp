@@ -42,44 +42,62 @@ struct Placement
     std::function<void(QWidget *)> host;
 };
 
+// One property as Designer writes it: <property name="..."><type>value</type></property>.
+QString property(const char *name, const char *type, const QString &value)
+{
+    return QStringLiteral("<property name=\"%1\"><%2>%3</%2></property>")
+        .arg(QLatin1String(name), QLatin1String(type), value);
+}
+
+QString caption(const QString &text)
+{
+    return property("LabelText", "string", text);
+}
+
+std::function<void(QWidget *)> showsValue(double value)
+{
+    return [value](QWidget *w) { call(w, "setValue", Q_ARG(double, value)); };
+}
+
+std::function<void(QWidget *)> showsLiteral(const QStringList &literals, int value)
+{
+    return [literals, value](QWidget *w) {
+        call(w, "setMetaData", Q_ARG(QVariant, record(literals)));
+        call(w, "setIndex", Q_ARG(int, value));
+    };
+}
+
 const QHash<QString, Placement> &placements()
 {
     const QString hz = QStringLiteral("0,0,1:1;0:0;0:0;0:0;0:0");
     const QString khz = QStringLiteral("0,3,1:1;0:0;0:0;0:0;0:0");
     const QString dbm = QStringLiteral("0,0,14:1;0:0;0:0;0:0;0:0");
-    const auto text = [](const char *name, const QString &value) {
-        return QStringLiteral("<property name=\"%1\"><string>%2</string></property>").arg(QLatin1String(name), value);
-    };
-    const auto enumerated = [](const QStringList &literals, int value) {
-        return [literals, value](QWidget *w) {
-            call(w, "setMetaData", Q_ARG(QVariant, record(literals)));
-            call(w, "setIndex", Q_ARG(int, value));
-        };
-    };
+    const QString onOff = property("OnText", "string", "On") + property("OffText", "string", "Off");
     const auto none = [](QWidget *) {};
     static const QHash<QString, Placement> all{
-        {"QKXBrowseButton", {text("LabelText", "Browse"), none}},
-        {"QKXComboBox", {text("LabelText", "Modulation"), enumerated({"AM", "FM", "Continuous"}, 2)}},
-        {"QKXConfirmationPushButton", {text("LabelText", "Reset") + text("TitleText", "Reset") + text("DialogText", "Reset every setting?"), none}},
-        {"QKXConfirmationToggleButton", {text("LabelText", "RF output") + text("OnText", "On") + text("OffText", "Off")
-                                             + QStringLiteral("<property name=\"State\"><bool>true</bool></property>"), none}},
-        {"QKXFlagStatus", {text("LabelText", "Overload") + QStringLiteral("<property name=\"Value\"><bool>true</bool></property>"), none}},
-        {"QKXListDoubleValueObj", {text("LabelText", "Bandwidth") + text("BaseUnit", hz) + text("Units", hz + '|' + khz)
-                                       + QStringLiteral("<property name=\"DefaultUnit\"><number>1</number></property>"
-                                                        "<property name=\"Precision\"><number>1</number></property>"),
-                                   [](QWidget *w) { call(w, "setValue", Q_ARG(double, 12500.0)); }}},
-        {"QKXNumeric", {text("LabelText", "Frequency (MHz)") + QStringLiteral("<property name=\"Precision\"><number>3</number></property>"),
-                        [](QWidget *w) { call(w, "setValue", Q_ARG(double, 145.275)); }}},
-        {"QKXNumericValueObj", {text("LabelText", "Level") + text("BaseUnit", dbm) + text("Units", dbm)
-                                    + QStringLiteral("<property name=\"Precision\"><number>1</number></property>"),
-                                [](QWidget *w) { call(w, "setValue", Q_ARG(double, -30.5)); }}},
-        {"QKXPlaybackControlButton", {QStringLiteral("<property name=\"ButtonType\"><enum>QKXPlaybackControlButton::play</enum></property>"), none}},
-        {"QKXProgressBar", {text("LabelText", "Sweep") + QStringLiteral("<property name=\"Value\"><number>40</number></property>"), none}},
-        {"QKXPushButton", {text("LabelText", "Preset"), none}},
-        {"QKXSaveTraceButton", {QString(), none}},
-        {"QKXTableEnum", {text("ColumnHeading", "Source"), enumerated({"Internal", "External"}, 1)}},
-        {"QKXToggleButton", {text("LabelText", "Averaging") + text("OnText", "On") + text("OffText", "Off"), none}},
-        {"QKXWheelEnum", {text("LabelText", "Filter"), enumerated({"Off", "Low pass"}, 1)}},
+        {"QKXBrowseButton", {caption("Browse"), none}},
+        {"QKXComboBox", {caption("Modulation"), showsLiteral({"AM", "FM", "Continuous"}, 2)}},
+        {"QKXConfirmationPushButton",
+         {caption("Reset") + property("TitleText", "string", "Reset") + property("DialogText", "string", "Reset all?"),
+          none}},
+        {"QKXConfirmationToggleButton", {caption("RF output") + onOff + property("State", "bool", "true"), none}},
+        {"QKXFlagStatus", {caption("Overload") + property("Value", "bool", "true"), none}},
+        {"QKXListDoubleValueObj",
+         {caption("Bandwidth") + property("Precision", "number", "1") + property("BaseUnit", "string", hz)
+              + property("DefaultUnit", "number", "1") + property("Units", "string", hz + '|' + khz),
+          showsValue(12500.0)}},
+        {"QKXNumeric", {caption("Frequency (MHz)") + property("Precision", "number", "3"), showsValue(145.275)}},
+        {"QKXNumericValueObj",
+         {caption("Level") + property("Precision", "number", "1") + property("BaseUnit", "string", dbm)
+              + property("Units", "string", dbm),
+          showsValue(-30.5)}},
+        {"QKXPlaybackControlButton", {property("ButtonType", "enum", "QKXPlaybackControlButton::play"), none}},
+        {"QKXProgressBar", {caption("Sweep") + property("Value", "number", "40"), none}},
+        {"QKXPushButton", {caption("Preset"), none}},
+        {"QKXSaveTraceButton", {QString(), none}},   // an icon: a form gives it no text
+        {"QKXTableEnum", {property("ColumnHeading", "string", "Source"), showsLiteral({"Internal", "External"}, 1)}},
+        {"QKXToggleButton", {caption("Averaging") + onOff, none}},
+        {"QKXWheelEnum", {caption("Filter"), showsLiteral({"Off", "Low pass"}, 1)}},
     };
     return all;
 }
@@ -108,7 +126,8 @@ QList<ShownText> textsOf(QWidget *top)
     QList<ShownText> texts;
     const auto add = [&texts](QWidget *w, const QString &text, std::function<void(bool)> show) {
         if (!text.isEmpty() && w->isVisible())
-            texts.append({QString::fromLatin1(w->metaObject()->className()) + QLatin1Char('#') + w->objectName() + QLatin1Char(' ') + text,
+            texts.append({QString::fromLatin1(w->metaObject()->className()) + QLatin1Char('#') + w->objectName()
+                              + QLatin1Char(' ') + text,
                           text, w->font(), w, std::move(show)});
     };
     for (QWidget *w : top->findChildren<QWidget *>()) {
@@ -128,7 +147,8 @@ QList<ShownText> textsOf(QWidget *top)
             for (int row = 0; row < model->rowCount(); ++row) {
                 const QModelIndex cell = model->index(row, 0);
                 const QString text = cell.data().toString();
-                add(table->viewport(), text, [model, cell, text](bool on) { model->setData(cell, on ? text : QString()); });
+                add(table->viewport(), text,
+                    [model, cell, text](bool on) { model->setData(cell, on ? text : QString()); });
             }
             const QString heading = model->headerData(0, Qt::Horizontal).toString();
             add(table->horizontalHeader(), heading,
@@ -212,7 +232,9 @@ void tst_FormTemplate::everyWidgetReadsOnTheTemplate()
     for (int i = 0; i < widgets.size(); ++i) {
         QVERIFY2(placements().contains(widgets.at(i)), qPrintable(widgets.at(i) + " has no placement here yet"));
         items += QStringLiteral("<item row=\"%1\" column=\"%2\"><widget class=\"%3\" name=\"%3\">%4</widget></item>")
-                     .arg(i / columns).arg(i % columns).arg(widgets.at(i), placements().value(widgets.at(i)).properties);
+                     .arg(i / columns)
+                     .arg(i % columns)
+                     .arg(widgets.at(i), placements().value(widgets.at(i)).properties);
     }
     const int end = form.lastIndexOf(QLatin1String(" </widget>"));
     QVERIFY(end > 0);
@@ -244,7 +266,8 @@ void tst_FormTemplate::everyWidgetReadsOnTheTemplate()
         QWidget *w = screen->findChild<QWidget *>(name);
         for (const ShownText &text : textsOf(w)) {
             const double ratio = textContrast(screen.data(), image, text);
-            QVERIFY2(ratio >= 4.5, qPrintable(QStringLiteral("%1: contrast %2:1").arg(text.where).arg(ratio, 0, 'f', 2)));
+            QVERIFY2(ratio >= 4.5,
+                     qPrintable(QStringLiteral("%1: contrast %2:1").arg(text.where).arg(ratio, 0, 'f', 2)));
             const QSize needed = QFontMetrics(text.font).size(Qt::TextSingleLine, text.text);
             QVERIFY2(w->sizeHint().width() >= needed.width() && w->sizeHint().height() >= needed.height(),
                      qPrintable(QStringLiteral("%1: hint %2x%3 for a text of %4x%5").arg(text.where)
