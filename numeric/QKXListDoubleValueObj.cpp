@@ -1,7 +1,7 @@
 #include "QKXListDoubleValueObj.h"
 #include "QKXListDoubleValueObj_p.h"
 
-#include "KXNumberText_p.h"
+#include "KXNumericLines_p.h"
 
 #include <QDebug>
 

@@ -1,7 +1,8 @@
 #include "QKXNumeric.h"
 #include "QKXNumeric_p.h"
 
-#include "KXNumberText_p.h"
+#include "KXNumberConversion_p.h"
+#include "KXNumericLines_p.h"
 
 #include "CSS.h"
 
@@ -12,8 +13,9 @@
 
 #include <cmath>
 
-// Decimals beyond this say nothing about a double and would only grow the text without bound.
-static constexpr int kx_maxShownDecimals = 64;
+// A double has no digit beyond its 1074th decimal, so more decimals only add zeros; Qt's formatter
+// gives up altogether on the largest counts a form could write.
+static constexpr int kx_maxShownDecimals = 1074;
 
 QKXNumericPrivate::QKXNumericPrivate(QKXNumeric *q)
     : QKXWidgetBasePrivate(q)
@@ -106,11 +108,16 @@ int QKXNumericPrivate::precision() const
     return precisionValue;
 }
 
+QString QKXNumericPrivate::decimalText(double value, int precision)
+{
+    return QString::number(value, 'f', qMin(precision, kx_maxShownDecimals));
+}
+
 void QKXNumericPrivate::setPrecision(int precision)
 {
-    if (precision < 0 || precision > kx_maxShownDecimals) {
+    if (precision > kx_maxShownDecimals) {
         qDebug().noquote() << "UserInterface -" << kxnumber::named(q) << "precision" << precision
-                           << "out of range, showing" << qBound(0, precision, kx_maxShownDecimals) << "decimals";
+                           << "out of range, showing" << kx_maxShownDecimals << "decimals";
     }
     precisionValue = precision;
     if (!editingValue) {
@@ -208,7 +215,7 @@ void QKXNumericPrivate::setValueText(double value)
 {
     const int radix = kxnumber::radixOf(int(base));
     if (radix == 10) {
-        lineEdit->setText(QString::number(value, 'f', qBound(0, precisionValue, kx_maxShownDecimals)));
+        lineEdit->setText(decimalText(value, precisionValue));
         return;
     }
     if (!kxnumber::fitsInt(value)) {

@@ -44,6 +44,9 @@ public:
     virtual void setEditing(bool editing);
 
     // The compact and large sheets and the two overlays, in the form hosts and themes rely on.
+    // The value in fixed-point notation with the given decimals, as QString::number() writes it.
+    static QString decimalText(double value, int precision);
+
     static QString smallStyleTemplate();
     static QString largeStyleTemplate();
     static QString lockStyleTemplate();

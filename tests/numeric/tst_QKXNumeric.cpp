@@ -107,9 +107,15 @@ void tst_QKXNumeric::precision_data()
 
     QTest::newRow("idle re-renders") << false << 3 << QStringList({"double 2.5", "int 2", "precision 3"}) << "2.500" << "";
     QTest::newRow("editing keeps the text") << true << 3 << QStringList({"precision 3"}) << "2.5" << "";
+    // The text is what QString::number() gives for any precision, up to a double's last decimal.
     QTest::newRow("negative") << false << -2 << QStringList({"double 2.5", "int 2", "precision -2"})
-                              << QString::number(2.5, 'f', 0)
-                              << "UserInterface - QKXNumeric \"level\" precision -2 out of range, showing 0 decimals";
+                              << QString::number(2.5, 'f', -2) << "";
+    QTest::newRow("beyond 64") << false << 70 << QStringList({"double 2.5", "int 2", "precision 70"})
+                               << "2.5" + QString(69, QLatin1Char('0')) << "";
+    QTest::newRow("beyond a double's decimals") << false << 2000000000
+                               << QStringList({"double 2.5", "int 2", "precision 2000000000"})
+                               << "2.5" + QString(1073, QLatin1Char('0'))
+                               << "UserInterface - QKXNumeric \"level\" precision 2000000000 out of range, showing 1074 decimals";
 }
 
 void tst_QKXNumeric::precision()

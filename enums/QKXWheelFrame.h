@@ -10,7 +10,8 @@ class QLayout;
 
 // The window of the wheel popup: a black frame with a selection band across it, and inside it the
 // column of items that turns like a wheel. A drag turns it within limits that keep the band covered;
-// a flick lets it run on and slow down, and it always comes to rest with an item on the band.
+// a flick lets it run on and slow down, and it always comes to rest with an item on the band, at the
+// end no lower than where a drag can turn it back.
 class STANDALONEPLUGINS_EXPORT QKXWheelFrame : public QFrame
 {
     Q_OBJECT
@@ -38,12 +39,13 @@ public:
     // Turns the wheel so that the item of this row sits at the top of the band.
     void setCurIdx(int row);
     // Turns the wheel by the vertical part of delta, within the limits.
+    // Where setCurIdx() puts the last item, the column's border leaves its end a pixel short of the
+    // band's, and a drag does not move it from there.
     virtual void moveIt(const QPoint &delta);
 
     // The finger that was turning the wheel has let go: run on if it was flicked, then settle.
     void releaseDrag();
-    // A finger came down on the wheel: it stops at once. True when it was running on or settling,
-    // so that the finger that stopped it is not also taken for a pick.
+    // A finger came down on the wheel: it stops at once. True when it was running on or settling.
     bool stopMotion();
     // Whether the wheel is still running on or settling after a drag.
     bool isMoving() const;

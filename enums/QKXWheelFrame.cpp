@@ -74,11 +74,11 @@ struct QKXWheelFrame::Data
     {
         return column->layout() ? column->layout()->count() : 0;
     }
-    // The tops the column may take while it runs on and settles: from the last item on the band
-    // (where setCurIdx puts it) to the first.
+    // The tops the column may take while it runs on and settles: from its end on the band's bottom
+    // to its first item on the band. Resting any lower would leave it where a drag cannot move it.
     int lowestTop() const
     {
-        return BandTop - QKXComboListItem::RowPitch * qMax(0, itemCount() - 1);
+        return qMin(int(BandTop), BandBottom - column->height());
     }
 };
 
@@ -229,11 +229,10 @@ void QKXWheelFrame::moveIt(const QPoint &delta)
             qDebug("moveIt 14");
         }
         qDebug("moveIt 16");
-    } else if (top < BandTop && bottom < BandBottom && dy > 0) {
-        // The last item placed on the band leaves the column's end just short of the band's: the
-        // wheel can still be turned back from there.
-        dy = qMin(dy, BandTop - top);
     } else {
+        // Anywhere else the column stays. That includes the last item put on the band by setCurIdx():
+        // the column's border leaves its end a pixel short of the band's, and hosts rely on the wheel
+        // standing still there.
         return;
     }
     m->column->move(m->column->x(), top + dy);
@@ -275,7 +274,7 @@ void QKXWheelFrame::releaseDrag()
     const int rows = qMax(1, m->itemCount());
     const int top = m->column->y();
     const int row = qBound(0, int(std::lround(double(BandTop - top) / QKXComboListItem::RowPitch)), rows - 1);
-    const int target = BandTop - QKXComboListItem::RowPitch * row;
+    const int target = qMax(BandTop - QKXComboListItem::RowPitch * row, m->lowestTop());
     if (target == top) {
         return;
     }

@@ -78,21 +78,15 @@ bool QKXComboListItem::event(QEvent *e)
 
 void QKXComboListItem::mousePressEvent(QMouseEvent *e)
 {
-    bool stoppedWheel = false;
     if (auto *wheel = parentWidget() ? qobject_cast<QKXWheelFrame *>(parentWidget()->parentWidget()) : nullptr) {
-        // A finger on a turning wheel stops it where it is.
-        stoppedWheel = wheel->stopMotion();
+        // A finger on a turning wheel stops it where it is; a tap is a pick all the same.
+        wheel->stopMotion();
     }
     QKXRichTextPushButton::mousePressEvent(e);
     globalAtPress = e->globalPos();
     localAtPress = e->pos();
     offsetAtPress = e->globalPos() - (parentWidget() ? parentWidget()->pos() : QPoint());
-    // Stopping a wheel is not choosing from it: the item under the finger only came there by turning.
-    dragged = stoppedWheel;
-    if (stoppedWheel) {
-        setDown(false);
-        label()->setEnabled(true);
-    }
+    dragged = false;
 }
 
 void QKXComboListItem::mouseMoveEvent(QMouseEvent *e)
