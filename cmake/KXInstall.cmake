@@ -37,6 +37,7 @@ install(FILES ${CMAKE_BINARY_DIR}/standaloneplugins.pc DESTINATION ${CMAKE_INSTA
 # there. The prefix is the one given to `cmake --install`, so both are decided at install time.
 get_target_property(kxQmake Qt5::qmake IMPORTED_LOCATION)
 execute_process(COMMAND ${kxQmake} -query QT_INSTALL_PLUGINS OUTPUT_VARIABLE kxQtPlugins OUTPUT_STRIP_TRAILING_WHITESPACE)
+execute_process(COMMAND ${kxQmake} -query QT_INSTALL_BINS OUTPUT_VARIABLE kxQtBins OUTPUT_STRIP_TRAILING_WHITESPACE)
 install(CODE "
     set(kxPrefix \"\${CMAKE_INSTALL_PREFIX}\")
     if(kxPrefix STREQUAL \"/usr\" OR kxPrefix STREQUAL \"/usr/local\")
@@ -53,5 +54,33 @@ install(CODE "
     if(kxPluginPath)
         message(\"Qt Designer finds the widgets once this line is in your shell's start-up file:\")
         message(\"export QT_PLUGIN_PATH=\${kxPluginPath}\\\${QT_PLUGIN_PATH:+:\\\$QT_PLUGIN_PATH}\")
+    endif()
+")
+
+# The front panel's form templates, for Designer's "New Form" dialog. Designer lists the *.ui files of
+# <the folder Designer runs from>/templates and of ~/.designer/templates. A system install puts them in
+# the first; any other prefix keeps them in <prefix>/share/standaloneplugins/templates and, when the
+# prefix is in the user's home, links them into ~/.designer/templates as well.
+file(GLOB KX_FORM_TEMPLATES ${PROJECT_SOURCE_DIR}/designer/templates/*.ui)
+install(FILES ${KX_FORM_TEMPLATES} DESTINATION ${CMAKE_INSTALL_DATADIR}/standaloneplugins/templates)
+install(CODE "
+    set(kxPrefix \"\${CMAKE_INSTALL_PREFIX}\")
+    set(kxTemplates \"\$ENV{DESTDIR}\${kxPrefix}/${CMAKE_INSTALL_DATADIR}/standaloneplugins/templates\")
+    set(kxDesignerTemplates \"\")
+    if(kxPrefix STREQUAL \"/usr\" OR kxPrefix STREQUAL \"/usr/local\")
+        set(kxDesignerTemplates \"\$ENV{DESTDIR}${kxQtBins}/templates\")
+    elseif(DEFINED ENV{HOME} AND NOT \"\$ENV{HOME}\" STREQUAL \"\" AND kxPrefix MATCHES \"^\$ENV{HOME}/\")
+        set(kxDesignerTemplates \"\$ENV{HOME}/.designer/templates\")
+    endif()
+    if(kxDesignerTemplates)
+        file(MAKE_DIRECTORY \"\${kxDesignerTemplates}\")
+        file(GLOB kxForms \"\${kxTemplates}/*.ui\")
+        foreach(kxForm IN LISTS kxForms)
+            get_filename_component(kxName \"\${kxForm}\" NAME)
+            message(STATUS \"Installing: \${kxDesignerTemplates}/\${kxName}\")
+            file(CREATE_LINK \"\${kxForm}\" \"\${kxDesignerTemplates}/\${kxName}\" SYMBOLIC)
+        endforeach()
+    else()
+        message(\"Qt Designer offers the front-panel form templates once \${kxTemplates} is among its template paths (Edit > Preferences > Template Paths).\")
     endif()
 ")
