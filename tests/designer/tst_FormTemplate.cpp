@@ -59,6 +59,11 @@ std::function<void(QWidget *)> showsValue(double value)
     return [value](QWidget *w) { call(w, "setValue", Q_ARG(double, value)); };
 }
 
+std::function<void(QWidget *)> showsSeconds(qlonglong seconds)
+{
+    return [seconds](QWidget *w) { call(w, "setValue", Q_ARG(qlonglong, seconds)); };
+}
+
 std::function<void(QWidget *)> showsLiteral(const QStringList &literals, int value)
 {
     return [literals, value](QWidget *w) {
@@ -81,6 +86,8 @@ const QHash<QString, Placement> &placements()
          {caption("Reset") + property("TitleText", "string", "Reset") + property("DialogText", "string", "Reset all?"),
           none}},
         {"QKXConfirmationToggleButton", {caption("RF output") + onOff + property("State", "bool", "true"), none}},
+        {"QKXDateWidget",
+         {caption("Calibrated") + property("displayFormat", "enum", "QKXDateWidget::MMM_d_YYYY"), showsSeconds(1709625600)}},
         {"QKXFlagStatus", {caption("Overload") + property("Value", "bool", "true"), none}},
         {"QKXListDoubleValueObj",
          {caption("Bandwidth") + property("Precision", "number", "1") + property("BaseUnit", "string", hz)
@@ -96,6 +103,7 @@ const QHash<QString, Placement> &placements()
         {"QKXPushButton", {caption("Preset"), none}},
         {"QKXSaveTraceButton", {QString(), none}},   // an icon: a form gives it no text
         {"QKXTableEnum", {property("ColumnHeading", "string", "Source"), showsLiteral({"Internal", "External"}, 1)}},
+        {"QKXTimeWidget", {caption("Clock") + property("UseMilitaryTime", "bool", "false"), showsSeconds(1709625600)}},
         {"QKXToggleButton", {caption("Averaging") + onOff, none}},
         {"QKXWheelEnum", {caption("Filter"), showsLiteral({"Off", "Low pass"}, 1)}},
     };
