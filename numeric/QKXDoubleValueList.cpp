@@ -131,7 +131,7 @@ void QKXDoubleValueList::processMetaDataForList(QVariant data)
     valueList.clear();
     unitStringList.clear();
 
-    const QString owner = registered ? registered->property("AttributeName").toString() : QString();
+    const QString owner = registered ? registered->objectName() : QString();
     const QVariantList entries = data.toList();
     if (data.isValid() && data.userType() != QMetaType::QVariantList) {
         qDebug().noquote() << "UserInterface - QKXDoubleValueList: values of" << (QLatin1Char('"') + owner + QLatin1Char('"'))

@@ -1,6 +1,7 @@
 #include "QKXNumericEventFilter.h"
 
 #include "KXNumberConversion_p.h"
+#include "KXNumericLines_p.h"
 #include "QKXEditStateFilter_p.h"
 
 #include <QDebug>
@@ -158,6 +159,7 @@ void QKXNumericEventFilter::attempLockSendLockSignal(QWidget *widget, bool locke
 void QKXNumericEventFilter::rememberValue()
 {
     Q_D(QKXNumericEventFilter);
+    kxnumber::reportEmptyRange(parent());
     const StartValueType type = d->dataType == kx_intType      ? IntegerStartValue
                                 : d->dataType == kx_doubleType ? DoubleStartValue
                                                                : NoStartValue;

@@ -2,6 +2,7 @@
 #include "QKXNumericValueObj_p.h"
 
 #include "KXNumberConversion_p.h"
+#include "KXNumericLines_p.h"
 
 #include "CSS.h"
 #include "QKXComboBox.h"
@@ -16,6 +17,8 @@
 #include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QStyle>
+
+#include <cmath>
 
 using Norvane::Value::Units;
 
@@ -200,6 +203,9 @@ void QKXNumericValueObjPrivate::emitValueSignals(double value, double shown)
 void QKXNumericValueObjPrivate::setValue(double value)
 {
     const double shown = displayValue(value);
+    if (!showable(value, shown)) {
+        return;
+    }
     // The numeric field shows (and its plain signals carry) the converted number; the widget keeps
     // the engine's number, so that value() and a cancel answer in the base unit.
     QKXNumericPrivate::setValue(shown);
@@ -211,6 +217,9 @@ void QKXNumericValueObjPrivate::setValue(const int &value)
 {
     const double shown = convertsUnitsValue ? ValueHelper::convertValue(long(value), baseUnits, currentUnits)
                                             : double(value);
+    if (!showable(value, shown)) {
+        return;
+    }
     QKXNumericPrivate::setValue(shown);
     currentValue = value;
     emitValueSignals(value, shown);
@@ -226,7 +235,7 @@ void QKXNumericValueObjPrivate::takeBaseUnit(const QString &unit)
     baseUnits = ValueHelper::convertToUnits(unit);
     populateList();
     if (hadList && groupMode != QKXNumericValueObj::None && offeredIndexes == QList<int>{-1}) {
-        qDebug().noquote() << "UserInterface - QKXNumericValueObj" << kxunits_quoted(attributeNameValue)
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q)
                            << "no unit of its list converts to"
                            << kxunits_quoted(ValueHelper::getUnitString(baseUnits))
                            << "- only the base unit is offered";
@@ -235,6 +244,10 @@ void QKXNumericValueObjPrivate::takeBaseUnit(const QString &unit)
 
 void QKXNumericValueObjPrivate::setValue(const double &value, const QString &unit)
 {
+    // A value with no number to show changes nothing, its unit included.
+    if (!showable(value, value)) {
+        return;
+    }
     takeBaseUnit(unit);
     setValue(value);
 }
@@ -274,7 +287,7 @@ void QKXNumericValueObjPrivate::setUnitListString(const QString &list)
         if (!ValueHelper::isValidUnits(part)) {
             // One bad part makes the whole list suspect: the field falls back to its base unit.
             if (!list.isEmpty()) {
-                qDebug().noquote() << "UserInterface - QKXNumericValueObj" << kxunits_quoted(attributeNameValue)
+                qDebug().noquote() << "UserInterface -" << kxnumber::named(q)
                                    << "unit list part" << kxunits_quoted(part)
                                    << "is no units string - only the base unit is offered";
             }
@@ -310,7 +323,7 @@ QString QKXNumericValueObjPrivate::baseUnit() const
 void QKXNumericValueObjPrivate::setBaseUnit(const QString &unit)
 {
     if (!ValueHelper::isValidUnits(unit)) {
-        qDebug().noquote() << "UserInterface - QKXNumericValueObj" << kxunits_quoted(attributeNameValue)
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q)
                            << "base unit" << kxunits_quoted(unit) << "is no units string";
     }
     // The unit shown stays as it is until a unit is selected again, even while it is the old base.
@@ -410,7 +423,7 @@ void QKXNumericValueObjPrivate::selectUnitIndex(int index)
     }
     if (index != -1 && !unitsByIndex.contains(index)) {
         // Only -1, the base unit itself, and the units of the list have a record to show.
-        qDebug().noquote() << "UserInterface - QKXNumericValueObj" << kxunits_quoted(attributeNameValue)
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q)
                            << "offers no unit" << index << "- unit kept";
         if (unitSelector->currentIndex() != unitIndexValue && offeredIndexes.contains(unitIndexValue)) {
             // Someone turned the selector itself: it goes back to the unit in use.
@@ -432,7 +445,13 @@ void QKXNumericValueObjPrivate::selectUnitIndex(int index)
 
     // Rewritten from the stored engine value, never from the text: the text is rounded.
     const double shown = displayValue(currentValue);
-    if (kxnumber::radixOf(int(base)) == 10) {
+    if (!std::isfinite(shown)) {
+        // The stored value is good but has no number in this unit (0 W in dBm): any number left in
+        // the field would now read as one in the new unit.
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q) << "has no number for" << currentValue << "in"
+                           << kxunits_quoted(ValueHelper::getUnitString(currentUnits)) << "- display emptied";
+        lineEdit->clear();
+    } else if (kxnumber::radixOf(int(base)) == 10) {
         const bool hadDecimals = lineEdit->text().contains(QLatin1Char('.'));
         lineEdit->setText(decimalText(shown, hadDecimals ? precisionValue : 0));
     } else {

@@ -1,6 +1,7 @@
 #include "QKXNumericValueObjEventFilter.h"
 
 #include "KXNumberConversion_p.h"
+#include "KXNumericLines_p.h"
 #include "QKXEditStateFilter_p.h"
 
 #include <QDebug>
@@ -272,6 +273,7 @@ void QKXNumericValueObjEventFilter::attempLockSendLockSignal(QWidget *widget, bo
 void QKXNumericValueObjEventFilter::rememberValue()
 {
     Q_D(QKXNumericValueObjEventFilter);
+    kxnumber::reportEmptyRange(parent());
     d->unitString = getUnitString();
     const StartValueType type = d->dataType == kx_valueLongType      ? IntegerStartValue
                                 : d->dataType == kx_valueDoubleType ? DoubleStartValue

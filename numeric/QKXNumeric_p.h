@@ -68,6 +68,11 @@ public:
     QString lockStyle;
     QString readOnlyStyle;
 
+protected:
+    // False, with a debug line, when there is no number to show: NaN or an infinity from the engine,
+    // or a finite engine value whose shown form (in another unit) is neither.
+    bool showable(double value, double shown) const;
+
 protected Q_SLOTS:
     virtual void setValueText(double value);
 

@@ -13,5 +13,6 @@ std::vector<std::unique_ptr<PanelScreen>> createPanelScreens()
     screens.emplace_back(new UnitsScreen);
     screens.emplace_back(new ChoicesScreen);
     screens.emplace_back(new SlidersScreen);
+    screens.emplace_back(new SettingsScreen);
     return screens;
 }

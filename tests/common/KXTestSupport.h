@@ -15,8 +15,9 @@
 namespace kxtest {
 
 // Collects the library's diagnostic lines while it lives: debug and warning messages that begin
-// "UserInterface - ", or "Userinterface - " as a few lines hosts filter on are spelt. Everything else
-// goes on to the handler that was there before.
+// "UserInterface - ", or "Userinterface - " as a few lines hosts filter on are spelt. Every other
+// warning (Qt's own too) is kept in warnings(). Everything but the library's lines goes on to the
+// handler that was there before.
 class DebugLines
 {
 public:
@@ -27,9 +28,11 @@ public:
         all() = scope == AllDebugLines;
         previous() = qInstallMessageHandler(&DebugLines::handle);
         lines().clear();
+        warnings().clear();
     }
     ~DebugLines() { qInstallMessageHandler(previous()); }
     static QStringList &lines() { static QStringList all; return all; }
+    static QStringList &warnings() { static QStringList all; return all; }
 
 private:
     static QtMessageHandler &previous() { static QtMessageHandler handler = nullptr; return handler; }
@@ -52,6 +55,8 @@ private:
             lines() << line;
             return;
         }
+        if (type == QtWarningMsg || type == QtCriticalMsg)
+            warnings() << msg;
         if (previous())
             previous()(type, context, msg);
     }

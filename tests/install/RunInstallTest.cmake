@@ -13,6 +13,12 @@ if(NOT kx_output MATCHES "export QT_PLUGIN_PATH=${KX_PREFIX}/")
     message(FATAL_ERROR "the install does not say how Designer finds the plug-in:\n${kx_output}")
 endif()
 
+file(GLOB templates ${KX_PREFIX}/share/standaloneplugins/templates/*.ui)
+list(LENGTH templates templateCount)
+if(NOT templateCount EQUAL 2 OR NOT kx_output MATCHES "Template Paths")
+    message(FATAL_ERROR "the form templates are not installed, or not announced:\n${kx_output}")
+endif()
+
 file(GLOB privateHeaders ${KX_PREFIX}/include/*/*_p.h)
 if(privateHeaders)
     message(FATAL_ERROR "private headers installed: ${privateHeaders}")

@@ -74,7 +74,7 @@ void tst_QKXListDoubleValueObj::init()
     GlobalImpl::getInstance()->setDesktop(window.data());
     GlobalImpl::getInstance()->systemModule()->registerSystemScreen(QStringLiteral("MainWindow"), window.data());
     field = new QKXListDoubleValueObj(window.data());
-    field->setAttributeName(QStringLiteral("Bandwidth"));
+    field->setObjectName(QStringLiteral("Bandwidth"));
     field->setGeometry(40, 40, 200, 60);
     field->setBaseUnit(hertz());
     field->setUnitListString(frequencyUnits());

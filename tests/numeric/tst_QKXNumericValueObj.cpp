@@ -22,7 +22,7 @@ struct FrequencyField
 {
     FrequencyField()
     {
-        field.setAttributeName(QStringLiteral("Frequency"));
+        field.setObjectName(QStringLiteral("Frequency"));
         field.setPrecision(1);
         field.setBaseUnit(hertz());
         field.setDefaultUnit(1);
