@@ -2,17 +2,29 @@
 // submitted at once and the select key commits.
 #include <QtTest>
 
-#include <QLineEdit>
-
 #include "QKXDPad.h"
-#include "QKXNumeric.h"
-#include "QKXNumericEventFilter.h"
-#include "QKXNumericValueObj.h"
-#include "QKXNumericValueObjEventFilter.h"
 
-#include "../common/NumericTestSupport.h"
+#include "LiveEditorTestSupport.h"
 
 using namespace kxtest;
+
+namespace {
+
+// The pad serving a field limited to [0, 10], whose engine takes every value and shows it again in
+// the field (which marks the step's digit anew).
+struct PadScreen : LiveScreen<QKXDPad>
+{
+    PadScreen(double value, int precision) : LiveScreen(QStringLiteral("Double"), value, precision)
+    {
+        field->setUpperLimit(10.0);
+        editor = new QKXDPad(&window);
+        QObject::connect(filter, QOverload<double>::of(&QKXNumericEventFilter::submit), field,
+                         [this](double v) { field->setValue(v); });
+    }
+    QLineEdit *entry() const { return field->findChild<QLineEdit *>(); }
+};
+
+} // namespace
 
 class tst_QKXDPad : public QObject
 {
@@ -35,7 +47,6 @@ void tst_QKXDPad::keysStepTheField_data()
     QTest::addColumn<QString>("marked");
     QTest::addColumn<QStringList>("sends");
 
-    // The field is limited to [0, 10].
     QTest::newRow("up stops at the maximum") << 9.5 << 1 << QList<int>{2, 0} << "10.0" << "0" << QStringList{"double 10"};
     QTest::newRow("down stops at the minimum") << 0.5 << 1 << QList<int>{1} << "0.0" << "0" << QStringList{"double 0"};
     QTest::newRow("finer step marks the hundredths") << 3.14 << 2 << QList<int>{3} << "3.14" << "4" << QStringList();
@@ -55,96 +66,54 @@ void tst_QKXDPad::keysStepTheField()
     QFETCH(QString, marked);
     QFETCH(QStringList, sends);
 
-    QWidget window;
-    auto *field = new QKXNumeric(&window);
-    field->setPrecision(precision);
-    field->setUpperLimit(10.0);
-    field->setValue(value);
-    auto *filter = new QKXNumericEventFilter(field, QStringLiteral("Double"), nullptr);
-    QStringList road;
-    logFilter(filter, road);
-    // The engine takes every value and the field shows it again, which marks the step's digit anew.
-    connect(filter, QOverload<double>::of(&QKXNumericEventFilter::submit), field,
-            [field](double v) { field->setValue(v); });
-    QKXDPad pad(&window);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    pad.registerWidget(filter, field);
-    road.clear();
-    QVERIFY(!pad.isVisible());
-
+    PadScreen screen(value, precision);
+    QVERIFY(screen.open());
+    QVERIFY(!screen.editor->isVisible());
     for (int key : keys)
-        pad.dPadKeyPressed(key);
-    QLineEdit *entry = field->findChild<QLineEdit *>();
-    QVERIFY(pad.isVisible());
-    QCOMPARE(entry->text(), shown);
-    QCOMPARE(entry->selectedText(), marked);
-    QCOMPARE(road, sends);
+        screen.editor->dPadKeyPressed(key);
+    QVERIFY(screen.editor->isVisible());
+    QCOMPARE(screen.entry()->text(), shown);
+    QCOMPARE(screen.entry()->selectedText(), marked);
+    QCOMPARE(screen.road, sends);
 }
 
 void tst_QKXDPad::unitFieldSendsItsUnitsString()
 {
     QWidget window;
-    auto *field = new QKXNumericValueObj(&window);
-    field->setPrecision(1);
-    field->setBaseUnit(hertz());
-    field->setDefaultUnit(1);
-    field->setUnitListString(frequencyUnits());
-    field->setUpperLimit(10000.0);
-    field->setValue(2500.0, hertz());
-    auto *filter = new QKXNumericValueObjEventFilter(field, QStringLiteral("ValueDouble"), nullptr, nullptr);
-    QStringList road;
-    connect(filter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit),
-            [&](double v, const QString &unit) { road << QString::number(v) + ' ' + unit; });
+    FrequencyField frequency(&window);
     QKXDPad pad(&window);
-    pad.registerWidget(filter, field);
+    pad.registerWidget(frequency.filter, frequency.field);
     QCOMPARE(pad.maximum(), 10.0);
     pad.dPadKeyPressed(0);
     pad.dPadKeyPressed(1);
-    QCOMPARE(road, QStringList({"2.6 " + kilohertz(), "2.5 " + kilohertz()}));
+    QCOMPARE(frequency.road, QStringList({"2.6 " + kilohertz(), "2.5 " + kilohertz()}));
 }
 
 void tst_QKXDPad::selectKeyCommits()
 {
-    QWidget window;
-    auto *field = new QKXNumeric(&window);
-    field->setUpperLimit(10.0);
-    auto *filter = new QKXNumericEventFilter(field, QStringLiteral("Double"), nullptr);
-    QStringList road;
-    logFilter(filter, road);
-    QKXDPad pad(&window);
-    QSignalSpy presses(&pad, &QKXDPad::dPadPressed);
-    QSignalSpy ends(&pad, &QKXDPad::editEnd);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    filter->lockAcquired(field);
-    QVERIFY(QTest::qWaitFor([&] { return filter->isEditing(); }));
-    pad.registerWidget(filter, field);
-    road.clear();
-
-    pad.dPadKeyPressed(0);
-    pad.dPadKeyPressed(4);
-    QVERIFY(QTest::qWaitFor([&] { return !filter->isEditing(); }));
-    QCOMPARE(road, QStringList({"double 1", "editEnd", "release"}));
+    PadScreen screen(0.0, 0);
+    QSignalSpy presses(screen.editor, &QKXDPad::dPadPressed);
+    QSignalSpy ends(screen.editor, &QKXDPad::editEnd);
+    QVERIFY(screen.open());
+    screen.editor->dPadKeyPressed(0);
+    screen.editor->dPadKeyPressed(4);
+    QVERIFY(screen.waitForEnd());
+    QCOMPARE(screen.road, QStringList({"double 1", "editEnd", "release"}));
     QCOMPARE(presses.count(), 2);
     QCOMPARE(ends.count(), 1);
-    QVERIFY(!pad.isVisible());
-    QVERIFY(!pad.registeredFilter());
+    QVERIFY(!screen.editor->isVisible());
     // The pad let go of the filter: its next keys reach nobody.
-    pad.dPadKeyPressed(0);
-    QCOMPARE(road.size(), 3);
+    screen.editor->dPadKeyPressed(0);
+    QCOMPARE(screen.road.size(), 3);
 }
 
 void tst_QKXDPad::keysThatDoNothing()
 {
     DebugLines lines;
-    QWidget window;
-    auto *field = new QKXNumeric(&window);
-    field->setObjectName(QStringLiteral("Channel"));
-    auto *filter = new QKXNumericEventFilter(field, QStringLiteral("Text"), nullptr);
-    QKXDPad pad(&window);
+    LiveScreen<QKXDPad> screen(QStringLiteral("Text"), 0.0, 0);
+    QKXDPad pad(&screen.window);
     pad.dPadKeyPressed(0);
-    pad.registerWidget(filter, field);
+    pad.registerWidget(screen.filter, screen.field);
     pad.dPadKeyPressed(7);
     QCOMPARE(lines.lines().size(), 3);
     QCOMPARE(lines.lines().at(0), QStringLiteral("UserInterface - QKXDPad: key 0 with no field registered - ignored"));

@@ -4,65 +4,34 @@
 #include <QtTest>
 
 #include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 
-#include "QKXNumeric.h"
-#include "QKXNumericEventFilter.h"
-#include "QKXNumericValueObj.h"
-#include "QKXNumericValueObjEventFilter.h"
 #include "QKXSliderBar.h"
 #include "QKXSliderEventFilter.h"
 #include "SliderBarImpl.h"
 
-#include "../common/NumericTestSupport.h"
+#include "LiveEditorTestSupport.h"
 
 using namespace kxtest;
 
 namespace {
 
-struct SliderScreen
+struct SliderScreen : LiveScreen<QKXSliderBar>
 {
     explicit SliderScreen(const QString &dataType, double value = 150.0, int precision = 0)
+        : LiveScreen(dataType, value, precision)
     {
-        window.resize(800, 480);
-        field->setObjectName(QStringLiteral("Level"));
-        field->setGeometry(40, 40, 200, 60);
-        field->setPrecision(precision);
-        field->setUpperLimit(200.0);
-        field->setValue(value);
-        filter = new QKXNumericEventFilter(field, dataType, nullptr);
-        field->installEventFilter(filter);
-        logFilter(filter, road);
-    }
-    bool open()
-    {
-        window.show();
-        if (!QTest::qWaitForWindowExposed(&window))
-            return false;
-        filter->lockAcquired(field);
-        if (!QTest::qWaitFor([this] { return filter->isEditing(); }))
-            return false;
-        slider->registerWidget(filter, field);
-        road.clear();
-        return slider->isVisible();
+        editor = new QKXSliderBar(&window);
     }
     // The point of the bar where the finger chooses the value.
     QPoint at(double value) const
     {
-        SliderBarImpl *bar = slider->sliderBar();
+        SliderBarImpl *bar = editor->sliderBar();
         for (int x = 0; x < bar->width(); ++x) {
             if (bar->valueAt(x) == value)
                 return QPoint(x, bar->height() / 2);
         }
         return QPoint(-1, -1);
     }
-
-    QStringList road;
-    QWidget window;
-    QKXNumeric *field = new QKXNumeric(&window);
-    QKXNumericEventFilter *filter = nullptr;
-    QKXSliderBar *slider = new QKXSliderBar(&window);
 };
 
 } // namespace
@@ -100,15 +69,15 @@ void tst_QKXSliderBar::dragSubmitsLiveInTheDataTypesForm()
 
     SliderScreen screen(dataType);
     QVERIFY(screen.open());
-    SliderBarImpl *bar = screen.slider->sliderBar();
-    QCOMPARE(screen.slider->indicator()->text(), QStringLiteral("150"));
+    SliderBarImpl *bar = screen.editor->sliderBar();
+    QCOMPARE(screen.editor->indicator()->text(), QStringLiteral("150"));
     QVERIFY(screen.at(100.0).x() > 0 && screen.at(200.0).x() > 0);
     QTest::mousePress(bar, Qt::LeftButton, Qt::NoModifier, screen.at(100.0));
     QTest::mouseMove(bar, screen.at(200.0));
     QTest::mouseMove(bar, QPoint(bar->width() + 40, 5));
     QTest::mouseRelease(bar, Qt::LeftButton, Qt::NoModifier, QPoint(bar->width() + 40, 5));
     QCOMPARE(screen.road, road);
-    QCOMPARE(screen.slider->indicator()->text(), QStringLiteral("200"));
+    QCOMPARE(screen.editor->indicator()->text(), QStringLiteral("200"));
     QVERIFY(screen.filter->isEditing());
 }
 
@@ -116,11 +85,11 @@ void tst_QKXSliderBar::hiddenChangesAreNotSubmitted()
 {
     SliderScreen screen(QStringLiteral("Double"));
     QVERIFY(screen.open());
-    screen.slider->hide();
-    screen.slider->updateValue(QStringLiteral("120"), QString());
-    QCOMPARE(screen.slider->indicator()->text(), QStringLiteral("120"));
-    screen.slider->show();
-    QTest::mouseClick(screen.slider->key(QStringLiteral("StepUp")), Qt::LeftButton);
+    screen.editor->hide();
+    screen.editor->updateValue(QStringLiteral("120"), QString());
+    QCOMPARE(screen.editor->indicator()->text(), QStringLiteral("120"));
+    screen.editor->show();
+    QTest::mouseClick(screen.editor->key(QStringLiteral("StepUp")), Qt::LeftButton);
     QCOMPARE(screen.road, QStringList{"double 121"});
 }
 
@@ -133,8 +102,6 @@ void tst_QKXSliderBar::initialStep_data()
     QTest::newRow("150, whole") << 150.0 << 0 << 0;
     QTest::newRow("100, whole") << 100.0 << 0 << 1;
     QTest::newRow("2500, whole") << 2500.0 << 0 << 1;
-    QTest::newRow("25.5, one decimal") << 25.5 << 1 << -1;
-    QTest::newRow("0.5, two decimals") << 0.5 << 2 << -1;
     QTest::newRow("0.5, five decimals") << 0.5 << 5 << -2;
 }
 
@@ -147,30 +114,20 @@ void tst_QKXSliderBar::initialStep()
     SliderScreen screen(QStringLiteral("Double"), value, precision);
     screen.field->setUpperLimit(1.0e6);
     QVERIFY(screen.open());
-    QCOMPARE(screen.slider->power(), power);
-    QCOMPARE(screen.slider->property("Power").toInt(), power);
-    QCOMPARE(screen.slider->step(), std::pow(10.0, power));
+    QCOMPARE(screen.editor->power(), power);
+    QCOMPARE(screen.editor->property("Power").toInt(), power);
+    QCOMPARE(screen.editor->step(), std::pow(10.0, power));
 }
 
 void tst_QKXSliderBar::unitFieldGivesRangeAndUnit()
 {
     QWidget window;
     window.resize(800, 480);
-    auto *field = new QKXNumericValueObj(&window);
-    field->setPrecision(1);
-    field->setBaseUnit(hertz());
-    field->setDefaultUnit(1);
-    field->setUnitListString(frequencyUnits());
-    field->setUpperLimit(10000.0);
-    field->setValue(2500.0, hertz());
-    auto *filter = new QKXNumericValueObjEventFilter(field, QStringLiteral("ValueDouble"), nullptr, nullptr);
-    QStringList road;
-    connect(filter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit),
-            [&](double v, const QString &unit) { road << QString::number(v) + ' ' + unit; });
+    FrequencyField frequency(&window);
     auto *slider = new QKXSliderBar(&window);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
-    slider->registerWidget(filter, field);
+    slider->registerWidget(frequency.filter, frequency.field);
 
     QCOMPARE(slider->minimum(), 0.0);
     QCOMPARE(slider->maximum(), 10.0);
@@ -182,30 +139,30 @@ void tst_QKXSliderBar::unitFieldGivesRangeAndUnit()
     QCOMPARE(unit->geometry().right() + 1, slider->width() - 10);
     QCOMPARE(unit->geometry().top(), slider->indicator()->geometry().top());
     QTest::mouseClick(slider->key(QStringLiteral("StepDown")), Qt::LeftButton);
-    QCOMPARE(road, QStringList{"2.4 " + kilohertz()});
+    QCOMPARE(frequency.road, QStringList{"2.4 " + kilohertz()});
 }
 
 void tst_QKXSliderBar::confirmCancelAndRotate()
 {
     SliderScreen screen(QStringLiteral("Double"));
     QVERIFY(screen.open());
-    QSignalSpy rotations(screen.slider, &QKXSliderBar::rotateEntry);
-    QTest::mouseClick(screen.slider->key(QStringLiteral("RotateEntry")), Qt::LeftButton);
+    QSignalSpy rotations(screen.editor, &QKXSliderBar::rotateEntry);
+    QTest::mouseClick(screen.editor->key(QStringLiteral("RotateEntry")), Qt::LeftButton);
     QCOMPARE(rotations.count(), 1);
 
     // Confirming ends the edit: the values went out as the slider moved.
-    QTest::mouseClick(screen.slider->key(QStringLiteral("StepUp")), Qt::LeftButton);
-    QTest::mouseClick(screen.slider->key(QStringLiteral("SliderEnter")), Qt::LeftButton);
-    QVERIFY(QTest::qWaitFor([&] { return !screen.filter->isEditing(); }));
+    QTest::mouseClick(screen.editor->key(QStringLiteral("StepUp")), Qt::LeftButton);
+    QTest::mouseClick(screen.editor->key(QStringLiteral("SliderEnter")), Qt::LeftButton);
+    QVERIFY(screen.waitForEnd());
     QCOMPARE(screen.road, QStringList({"double 151", "editEnd", "release"}));
-    QVERIFY(!screen.slider->isVisible());
-    QVERIFY(!screen.slider->registeredFilter());
+    QVERIFY(!screen.editor->isVisible());
+    QVERIFY(!screen.editor->registeredFilter());
 
     // Cancel gives the engine back the value the edit began with.
     QVERIFY(screen.open());
-    QTest::mouseClick(screen.slider->key(QStringLiteral("StepUp")), Qt::LeftButton);
-    QTest::mouseClick(screen.slider->key(QStringLiteral("SliderCancel")), Qt::LeftButton);
-    QVERIFY(QTest::qWaitFor([&] { return !screen.filter->isEditing(); }));
+    QTest::mouseClick(screen.editor->key(QStringLiteral("StepUp")), Qt::LeftButton);
+    QTest::mouseClick(screen.editor->key(QStringLiteral("SliderCancel")), Qt::LeftButton);
+    QVERIFY(screen.waitForEnd());
     QCOMPARE(screen.road, QStringList({"double 151", "double 150", "editEnd", "release"}));
 }
 
@@ -213,17 +170,17 @@ void tst_QKXSliderBar::cancelReachesOnlyASliderFilter()
 {
     SliderScreen screen(QStringLiteral("Double"));
     QVERIFY(screen.open());
-    screen.slider->cancel();
+    screen.editor->cancel();
     QCOMPARE(screen.road, QStringList());
 
     QWidget owner;
     auto *sliderFilter = new QKXSliderEventFilter(&owner);
     sliderFilter->setProperty("DataType", QStringLiteral("Int"));
     QSignalSpy ends(sliderFilter, &QKXEventFilterBase::editEnd);
-    screen.slider->registerWidget(sliderFilter, screen.field);
-    screen.slider->cancel();
+    screen.editor->registerWidget(sliderFilter, screen.field);
+    screen.editor->cancel();
     QCOMPARE(ends.count(), 1);
-    QVERIFY(!screen.slider->isVisible());
+    QVERIFY(!screen.editor->isVisible());
 }
 
 void tst_QKXSliderBar::unknownDataTypeAndBadText()
@@ -231,7 +188,7 @@ void tst_QKXSliderBar::unknownDataTypeAndBadText()
     DebugLines lines;
     SliderScreen screen(QStringLiteral("Text"));
     QVERIFY(screen.open());
-    QTest::mouseClick(screen.slider->key(QStringLiteral("StepUp")), Qt::LeftButton);
+    QTest::mouseClick(screen.editor->key(QStringLiteral("StepUp")), Qt::LeftButton);
     QCOMPARE(screen.road, QStringList());
     QCOMPARE(lines.lines().size(), 1);
     QVERIFY(lines.lines().first().startsWith(

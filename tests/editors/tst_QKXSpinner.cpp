@@ -1,59 +1,24 @@
 // The wheel: circles drawn with a finger on it, the steps they take, and each step submitted live.
 #include <QtTest>
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QtMath>
 
-#include "QKXNumeric.h"
-#include "QKXNumericEventFilter.h"
-#include "QKXNumericValueObj.h"
-#include "QKXNumericValueObjEventFilter.h"
 #include "QKXSpinner.h"
-#include "ValueHelper.h"
 
-#include "../common/NumericTestSupport.h"
+#include "LiveEditorTestSupport.h"
 
 using namespace kxtest;
 
 namespace {
 
-// A field on a screen with its filter (no adapter: the field's own value is what a cancel gives back)
-// and the spinner, registered for the field's edit.
-struct SpinnerScreen
+// The wheel serving a field, editing within [0, 100].
+struct SpinnerScreen : LiveScreen<QKXSpinner>
 {
-    SpinnerScreen(const QString &dataType, double value, int precision)
+    SpinnerScreen(const QString &dataType, double value, int precision) : LiveScreen(dataType, value, precision)
     {
-        window.resize(800, 480);
-        field->setObjectName(QStringLiteral("Channel"));
-        field->setGeometry(40, 40, 200, 60);
-        field->setPrecision(precision);
-        field->setValue(value);
-        filter = new QKXNumericEventFilter(field, dataType, nullptr);
-        field->installEventFilter(filter);
-        logFilter(filter, road);
-        spinner->updateLimits(0.0, 100.0);
+        editor = new QKXSpinner(&window, 0.0, 100.0, 0, 260, 334);
     }
-    bool open()
-    {
-        window.show();
-        if (!QTest::qWaitForWindowExposed(&window))
-            return false;
-        filter->lockAcquired(field);
-        if (!QTest::qWaitFor([this] { return filter->isEditing(); }))
-            return false;
-        spinner->registerWidget(filter, field);
-        road.clear();
-        return spinner->isVisible();
-    }
-    QString shown() const { return spinner->display()->text(); }
-
-    QStringList road;
-    QWidget window;
-    QKXNumeric *field = new QKXNumeric(&window);
-    QKXNumericEventFilter *filter = nullptr;
-    QKXSpinner *spinner = new QKXSpinner(&window, -1.0, -1.0, 0, 260, 334);
+    QString shown() const { return editor->display()->text(); }
 };
 
 // A finger on the wheel, 80 pixels from its centre: pressed at the first angle (degrees, clockwise
@@ -108,7 +73,6 @@ private slots:
     void submitsByDataType();
     void unitFieldIsEditedInItsUnit();
     void enterCancelAndASecondEdit();
-    void pressesBesideTheWheel();
     void textThatIsNoNumber();
 };
 
@@ -138,8 +102,8 @@ void tst_QKXSpinner::circlesStepLive()
 
     SpinnerScreen screen(QStringLiteral("Double"), 50.0, 1);
     QVERIFY(screen.open());
-    QCOMPARE(screen.spinner->power(), -1.0);
-    drawOnWheel(screen.spinner, degrees, msPerMove);
+    QCOMPARE(screen.editor->power(), -1.0);
+    drawOnWheel(screen.editor, degrees, msPerMove);
     QCOMPARE(screen.road, submits);
     QCOMPARE(screen.shown(), submits.isEmpty() ? QStringLiteral("50.0") : submits.last().mid(7));
 }
@@ -170,9 +134,9 @@ void tst_QKXSpinner::stepSizeAndLimits()
 
     SpinnerScreen screen(QStringLiteral("Double"), start, 1);
     QVERIFY(screen.open());
-    screen.spinner->resetStep();
-    screen.spinner->changeStep(-1);
-    emit screen.spinner->updateValue(speed);
+    screen.editor->resetStep();
+    screen.editor->changeStep(-1);
+    emit screen.editor->updateValue(speed);
     QCOMPARE(screen.shown(), shown);
     QCOMPARE(screen.road, shown == QString::number(start, 'f', 1) ? QStringList()
                                                                    : QStringList{"double " + QString::number(shown.toDouble())});
@@ -181,18 +145,17 @@ void tst_QKXSpinner::stepSizeAndLimits()
 void tst_QKXSpinner::stepKeysAndMarkedDigit()
 {
     SpinnerScreen screen(QStringLiteral("Double"), 5.0, 2);
-    screen.field->setUpperLimit(50.0);
+    screen.editor->updateLimits(0.0, 50.0);
     QVERIFY(screen.open());
-    screen.spinner->updateLimits(0.0, 50.0);
-    QLineEdit *display = screen.spinner->display();
+    QLineEdit *display = screen.editor->display();
     const auto press = [&](const char *name) {
-        auto *key = screen.spinner->findChild<QPushButton *>(QLatin1String(name));
+        auto *key = screen.editor->findChild<QPushButton *>(QLatin1String(name));
         QTest::mouseClick(key, Qt::LeftButton, Qt::NoModifier, QPoint(23, 23));
-        return qMakePair(screen.spinner->power(), display->selectedText());
+        return qMakePair(screen.editor->power(), display->selectedText());
     };
     using Step = QPair<double, QString>;
     // The selection ends at the digit the wheel changes.
-    QCOMPARE(Step(screen.spinner->power(), display->selectedText()), Step(-1.0, "5.0"));
+    QCOMPARE(Step(screen.editor->power(), display->selectedText()), Step(-1.0, "5.0"));
     QCOMPARE(press("Decrement"), Step(-2.0, "5.00"));
     QCOMPARE(press("Decrement"), Step(-2.0, "5.00"));   // not finer than the last decimal
     QCOMPARE(press("Increment"), Step(-1.0, "5.0"));
@@ -204,8 +167,8 @@ void tst_QKXSpinner::stepKeysAndMarkedDigit()
     press("Decrement");
     press("Decrement");
     press("Decrement");
-    screen.spinner->changePrecision(1);
-    QCOMPARE(Step(screen.spinner->power(), display->selectedText()), Step(-1.0, "5.0"));
+    screen.editor->changePrecision(1);
+    QCOMPARE(Step(screen.editor->power(), display->selectedText()), Step(-1.0, "5.0"));
     QCOMPARE(screen.road, QStringList());
 }
 
@@ -228,11 +191,11 @@ void tst_QKXSpinner::submitsByDataType()
     DebugLines lines;
     SpinnerScreen screen(dataType, 50.0, 0);
     QVERIFY(screen.open());
-    emit screen.spinner->updateValue(1.0);
-    QTest::mouseClick(screen.spinner->findChild<QPushButton *>(QStringLiteral("Enter")), Qt::LeftButton);
-    QVERIFY(QTest::qWaitFor([&] { return !screen.filter->isEditing(); }));
+    emit screen.editor->updateValue(1.0);
+    QTest::mouseClick(screen.editor->findChild<QPushButton *>(QStringLiteral("Enter")), Qt::LeftButton);
+    QVERIFY(screen.waitForEnd());
     QCOMPARE(screen.road, road);
-    QVERIFY(!screen.spinner->isVisible());
+    QVERIFY(!screen.editor->isVisible());
     QCOMPARE(lines.lines().size(), dataType == "Text" ? 1 : 0);
     if (dataType == "Text")
         QVERIFY(lines.lines().first().startsWith(
@@ -241,70 +204,36 @@ void tst_QKXSpinner::submitsByDataType()
 
 void tst_QKXSpinner::unitFieldIsEditedInItsUnit()
 {
-    // 2500 Hz shown in kHz, limits 0 to 10 000 Hz: the wheel works in kHz, from 0 to 10.
+    // The wheel works in the unit the field shows, within the limits converted to it.
     QWidget window;
-    auto *field = new QKXNumericValueObj(&window);
-    field->setPrecision(3);
-    field->setBaseUnit(hertz());
-    field->setDefaultUnit(1);
-    field->setUnitListString(frequencyUnits());
-    field->setUpperLimit(10000.0);
-    field->setValue(2500.0, hertz());
-    auto *filter = new QKXNumericValueObjEventFilter(field, QStringLiteral("ValueDouble"), nullptr, nullptr);
-    QStringList road;
-    connect(filter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit),
-            [&](double v, const QString &unit) { road << QString::number(v) + ' ' + unit; });
+    FrequencyField frequency(&window);
     auto *spinner = new QKXSpinner(&window, 0.0, 1.0, 0, 260, 334);
     window.show();
-    spinner->registerWidget(filter, field);
-
-    QCOMPARE(spinner->display()->text(), QStringLiteral("2.500"));
+    spinner->registerWidget(frequency.filter, frequency.field);
+    QCOMPARE(spinner->display()->text(), QStringLiteral("2.5"));
     QCOMPARE(spinner->minimum(), 0.0);
     QCOMPARE(spinner->maximum(), 10.0);
-    QCOMPARE(spinner->power(), -1.0);
     emit spinner->updateValue(-1.0);
-    QCOMPARE(road, QStringList{"2.4 " + kilohertz()});
+    QCOMPARE(frequency.road, QStringList{"2.4 " + kilohertz()});
 }
 
 void tst_QKXSpinner::enterCancelAndASecondEdit()
 {
     SpinnerScreen screen(QStringLiteral("Double"), 50.0, 1);
     QVERIFY(screen.open());
-    emit screen.spinner->updateValue(1.0);
+    emit screen.editor->updateValue(1.0);
     // Cancel gives the engine back the value the edit began with, and closes the wheel.
-    QTest::mouseClick(screen.spinner->findChild<QPushButton *>(QStringLiteral("Cancel")), Qt::LeftButton,
+    QTest::mouseClick(screen.editor->findChild<QPushButton *>(QStringLiteral("Cancel")), Qt::LeftButton,
                       Qt::NoModifier, QPoint(23, 23));
-    QVERIFY(QTest::qWaitFor([&] { return !screen.filter->isEditing(); }));
+    QVERIFY(screen.waitForEnd());
     QCOMPARE(screen.road, QStringList({"double 50.1", "double 50", "editEnd", "release"}));
-    QVERIFY(!screen.spinner->isVisible());
-    QVERIFY(!screen.spinner->registeredFilter());
+    QVERIFY(!screen.editor->isVisible());
+    QVERIFY(!screen.editor->registeredFilter());
 
     // The next edit is served by the same wheel: still one submit per step.
     QVERIFY(screen.open());
-    emit screen.spinner->updateValue(1.0);
+    emit screen.editor->updateValue(1.0);
     QCOMPARE(screen.road, QStringList{"double 50.1"});
-}
-
-void tst_QKXSpinner::pressesBesideTheWheel()
-{
-    SpinnerScreen screen(QStringLiteral("Double"), 50.0, 1);
-    QVERIFY(screen.open());
-    const QPoint start = screen.spinner->pos();
-    const auto drag = [&](QWidget *on, QPoint at) {
-        QTest::mousePress(on, Qt::LeftButton, Qt::NoModifier, at);
-        at = on->mapTo(screen.spinner, at) + QPoint(-30, 20);
-        QMouseEvent move(QEvent::MouseMove, at, screen.spinner->mapToGlobal(at), Qt::NoButton, Qt::LeftButton,
-                         Qt::NoModifier);
-        QApplication::sendEvent(screen.spinner, &move);
-        QTest::mouseRelease(screen.spinner, Qt::LeftButton, Qt::NoModifier, at);
-    };
-    // The strip under the display takes the finger without moving the popup or turning the wheel.
-    drag(screen.spinner->findChild<QLabel *>(QStringLiteral("Gap")), QPoint(20, 9));
-    QCOMPARE(screen.spinner->pos(), start);
-    // Elsewhere on the panel, and in the wheel's square corners, the finger moves the popup.
-    drag(screen.spinner->findChild<QWidget *>(QStringLiteral("SpinFrame")), QPoint(3, 3));
-    QCOMPARE(screen.spinner->pos(), start + QPoint(-30, 20));
-    QCOMPARE(screen.road, QStringList());
 }
 
 void tst_QKXSpinner::textThatIsNoNumber()
@@ -312,9 +241,9 @@ void tst_QKXSpinner::textThatIsNoNumber()
     DebugLines lines;
     SpinnerScreen screen(QStringLiteral("Double"), 50.0, 1);
     QVERIFY(screen.open());
-    screen.spinner->setValue(QStringLiteral("5O.1"));
+    screen.editor->setValue(QStringLiteral("5O.1"));
     QCOMPARE(screen.shown(), QStringLiteral("50.0"));
-    emit screen.spinner->valueChanged(QStringLiteral("nan"));
+    emit screen.editor->valueChanged(QStringLiteral("nan"));
     QCOMPARE(screen.road, QStringList());
     QCOMPARE(lines.lines(), QStringList({"UserInterface - QKXSpinner: Channel \"5O.1\" is not a number - the wheel keeps 50.0",
                                          "UserInterface - QKXSpinner: Channel \"nan\" is not a number - nothing submitted"}));

@@ -6,7 +6,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "RotatableLabel.h"
 #include "SingleSliderImpl.h"
 #include "SliderBarImpl.h"
 
@@ -37,7 +36,6 @@ private slots:
     void fingerKeysAndTyping();
     void stepStaysBetweenDecimalsAndRange();
     void ownerValuesAreShownAsGiven();
-    void turnedCaptionTakesATallCell();
 };
 
 void tst_SingleSliderImpl::fingerKeysAndTyping()
@@ -64,12 +62,6 @@ void tst_SingleSliderImpl::fingerKeysAndTyping()
     QCOMPARE(slider->changes, QStringList({"0.0", "10.0", "9.9", "0.0"}));
     QCOMPARE(slider->indicator()->text(), QStringLiteral("0.0"));
 
-    QSignalSpy cancels(slider, &SingleSliderImpl::cancelEntry);
-    QSignalSpy rotations(slider, &SingleSliderImpl::rotateEntryMechanism);
-    QTest::mouseClick(slider->key(QStringLiteral("SliderCancel")), Qt::LeftButton);
-    QTest::mouseClick(slider->key(QStringLiteral("RotateEntry")), Qt::LeftButton);
-    QCOMPARE(cancels.count(), 1);
-    QCOMPARE(rotations.value(0).value(0).toString(), slider->objectName());
     QTest::mouseClick(slider->key(QStringLiteral("SliderEnter")), Qt::LeftButton);
     QVERIFY(!slider->isVisible());
 }
@@ -108,16 +100,6 @@ void tst_SingleSliderImpl::ownerValuesAreShownAsGiven()
     QCOMPARE(slider->value(), 12.25);
     slider->changePrecision(3);
     QCOMPARE(slider->sliderBar()->precision(), 3);
-}
-
-void tst_SingleSliderImpl::turnedCaptionTakesATallCell()
-{
-    RotatableLabel caption(QStringLiteral("Squelch level"), 90);
-    const QSize turned = caption.sizeHint();
-    caption.setAngle(0);
-    QCOMPARE(caption.sizeHint(), turned.transposed());
-    caption.setAngle(-90);
-    QCOMPARE(caption.sizeHint(), turned);
 }
 
 QTEST_MAIN(tst_SingleSliderImpl)

@@ -133,6 +133,8 @@ void tst_QKXSliderEventFilter::verticalSubmitsNothingOfADrag()
     QSignalSpy values(screen.slider, &QKXSliderVertical::valueChanged);
     dragWithGrant(screen, QPoint(0, -40));
     QCOMPARE(values.count(), 1);
+    QCOMPARE(values.first().first().toInt(), screen.handle()->value());
+    QCOMPARE(screen.slider->value(), 40);   // until the host sets it
     QCOMPARE(screen.road, QStringList({"lock", "editStart", "release", "editEnd", "release"}));
 }
 

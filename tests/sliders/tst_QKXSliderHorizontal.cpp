@@ -103,17 +103,15 @@ void tst_QKXSliderHorizontal::dragAnnouncesEachPosition()
 
 void tst_QKXSliderHorizontal::sizeVariants()
 {
+    // No locked or read-only look; the large look also clears the add-page's border.
     QKXSliderHorizontal widget;
     const QString compact = widget.styleSheet();
-    QVERIFY(compact.contains("QSlider {    min-height: 28px;    max-height: 28px;}"));
-    QVERIFY(compact.contains("background: QLinearGradient(x1:0, y1:0, x2:1, y2:0, stop:0 "));
-    QVERIFY(!compact.contains("add-page"));
+    QVERIFY(compact.contains("QSlider {    min-height: 28px;    max-height: 28px;}") && !compact.contains("add-page"));
     widget.setLocked(true);
     widget.setReadOnly(true);
     QCOMPARE(widget.styleSheet(), compact);
     widget.changeSize(QStringLiteral("Max"));
     QVERIFY(widget.styleSheet().contains("QSlider::add-page:horizontal {    border: none;}"));
-    QVERIFY(widget.styleSheet().contains("width: 8px;    border-radius: 12px;"));
 }
 
 QTEST_MAIN(tst_QKXSliderHorizontal)
