@@ -5,6 +5,7 @@
 
 #include <QLabel>
 
+#include "KXStepPower_p.h"
 #include "QKXSliderBar.h"
 #include "QKXSliderEventFilter.h"
 #include "SliderBarImpl.h"
@@ -71,6 +72,7 @@ void tst_QKXSliderBar::dragSubmitsLiveInTheDataTypesForm()
     QVERIFY(screen.open());
     SliderBarImpl *bar = screen.editor->sliderBar();
     QCOMPARE(screen.editor->indicator()->text(), QStringLiteral("150"));
+    QCOMPARE(screen.editor->property("Power").toInt(), 0);   // 150 steps by 1, as the spinner would
     QVERIFY(screen.at(100.0).x() > 0 && screen.at(200.0).x() > 0);
     QTest::mousePress(bar, Qt::LeftButton, Qt::NoModifier, screen.at(100.0));
     QTest::mouseMove(bar, screen.at(200.0));
@@ -97,26 +99,25 @@ void tst_QKXSliderBar::initialStep_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<int>("precision");
-    QTest::addColumn<int>("power");
+    QTest::addColumn<double>("power");
 
-    QTest::newRow("150, whole") << 150.0 << 0 << 0;
-    QTest::newRow("100, whole") << 100.0 << 0 << 1;
-    QTest::newRow("2500, whole") << 2500.0 << 0 << 1;
-    QTest::newRow("0.5, five decimals") << 0.5 << 5 << -2;
+    // The spinner's and the slider bar's first step, at the edges of its digit counts.
+    QTest::newRow("99, whole: ones") << 99.0 << 0 << 0.0;
+    QTest::newRow("100, whole: tens") << 100.0 << 0 << 1.0;
+    QTest::newRow("150, whole: ones") << 150.0 << 0 << 0.0;
+    QTest::newRow("2500, whole: tens") << 2500.0 << 0 << 1.0;
+    QTest::newRow("100, one decimal: tenths") << 100.0 << 1 << -1.0;
+    QTest::newRow("999.9, one decimal: ones") << 999.9 << 1 << 0.0;
+    QTest::newRow("1000, one decimal: tens") << 1000.0 << 1 << 1.0;
+    QTest::newRow("0.5, five decimals: hundredths") << 0.5 << 5 << -2.0;
 }
 
 void tst_QKXSliderBar::initialStep()
 {
     QFETCH(double, value);
     QFETCH(int, precision);
-    QFETCH(int, power);
-
-    SliderScreen screen(QStringLiteral("Double"), value, precision);
-    screen.field->setUpperLimit(1.0e6);
-    QVERIFY(screen.open());
-    QCOMPARE(screen.editor->power(), power);
-    QCOMPARE(screen.editor->property("Power").toInt(), power);
-    QCOMPARE(screen.editor->step(), std::pow(10.0, power));
+    QFETCH(double, power);
+    QCOMPARE(kxstep::initialPower(value, precision), power);
 }
 
 void tst_QKXSliderBar::unitFieldGivesRangeAndUnit()
@@ -132,6 +133,7 @@ void tst_QKXSliderBar::unitFieldGivesRangeAndUnit()
     QCOMPARE(slider->minimum(), 0.0);
     QCOMPARE(slider->maximum(), 10.0);
     QCOMPARE(slider->indicator()->text(), QStringLiteral("2.5"));
+    QCOMPARE(slider->step(), 0.1);
     QLabel *unit = slider->unitLabel();
     QVERIFY(unit->isVisible());
     QCOMPARE(unit->text(), QStringLiteral("kHz"));

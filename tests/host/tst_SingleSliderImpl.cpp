@@ -35,7 +35,6 @@ class tst_SingleSliderImpl : public QObject
 private slots:
     void fingerKeysAndTyping();
     void stepStaysBetweenDecimalsAndRange();
-    void ownerValuesAreShownAsGiven();
 };
 
 void tst_SingleSliderImpl::fingerKeysAndTyping()
@@ -86,20 +85,6 @@ void tst_SingleSliderImpl::stepStaysBetweenDecimalsAndRange()
     finer->click();
     finer->click();
     QCOMPARE(slider->indicator()->selectedText(), QStringLiteral("5"));
-}
-
-void tst_SingleSliderImpl::ownerValuesAreShownAsGiven()
-{
-    QWidget window;
-    auto *slider = new RecordingSlider(&window);
-    slider->updateValue(QStringLiteral("12.25"), QStringLiteral("kHz"));   // beyond the limits
-    slider->updateValue(QStringLiteral("12.25"), QStringLiteral("kHz"));   // no change
-    slider->updateValue(QStringLiteral("12.25"), QStringLiteral("MHz"));
-    slider->updateValue(QStringLiteral("twelve"), QStringLiteral("MHz"));
-    QCOMPARE(slider->changes, QStringList({"12.25 kHz", "12.25 MHz"}));
-    QCOMPARE(slider->value(), 12.25);
-    slider->changePrecision(3);
-    QCOMPARE(slider->sliderBar()->precision(), 3);
 }
 
 QTEST_MAIN(tst_SingleSliderImpl)

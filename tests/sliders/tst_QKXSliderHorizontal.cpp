@@ -2,8 +2,6 @@
 #define QTEST_QPA_MOUSE_HANDLING
 #include <QtTest>
 
-#include <QLabel>
-
 #include "QKXSliderHorizontal.h"
 #include "SliderTestSupport.h"
 
@@ -14,29 +12,15 @@ class tst_QKXSliderHorizontal : public QObject
     Q_OBJECT
 
 private slots:
-    void newSlider();
     void setValueClampsAndAnnounces_data();
     void setValueClampsAndAnnounces();
     void newLowerLimitMovesOnlyTheHandle();
     void dragAnnouncesEachPosition();
-    void sizeVariants();
 };
 
 static QSlider *handleOf(QKXSliderHorizontal &widget)
 {
     return widget.findChild<QSlider *>(QStringLiteral("HorizontalSlider"));
-}
-
-void tst_QKXSliderHorizontal::newSlider()
-{
-    QKXSliderHorizontal widget;
-    QCOMPARE(widget.property("Value").toInt(), 0);
-    QCOMPARE(widget.property("LowerLimit").toInt(), 0);
-    QCOMPARE(widget.property("UpperLimit").toInt(), 100);
-    QCOMPARE(handleOf(widget)->value(), 1);
-    QCOMPARE(widget.labelText(), QStringLiteral("H Slider"));
-    widget.setProperty("LabelText", QStringLiteral("Volume"));
-    QCOMPARE(widget.findChild<QLabel *>(QStringLiteral("Label"))->text(), QStringLiteral("Volume"));
 }
 
 void tst_QKXSliderHorizontal::setValueClampsAndAnnounces_data()
@@ -45,7 +29,8 @@ void tst_QKXSliderHorizontal::setValueClampsAndAnnounces_data()
     QTest::addColumn<int>("kept");
     QTest::addColumn<QList<int>>("announced");
 
-    // The handle's own change announces the value, and setValue() announces it once more.
+    // The handle's own change announces the value, and setValue() announces it once more. A new
+    // slider's handle stands at 1.
     QTest::newRow("inside") << 50 << 50 << QList<int>{50, 50};
     QTest::newRow("above the upper limit") << 150 << 100 << QList<int>{100, 100};
     QTest::newRow("below the lower limit") << -5 << 0 << QList<int>{0, 0};
@@ -99,19 +84,6 @@ void tst_QKXSliderHorizontal::dragAnnouncesEachPosition()
     QCOMPARE(values.at(2), values.at(1));
     QCOMPARE(handle->value(), values.last());
     QCOMPARE(widget->value(), 20);
-}
-
-void tst_QKXSliderHorizontal::sizeVariants()
-{
-    // No locked or read-only look; the large look also clears the add-page's border.
-    QKXSliderHorizontal widget;
-    const QString compact = widget.styleSheet();
-    QVERIFY(compact.contains("QSlider {    min-height: 28px;    max-height: 28px;}") && !compact.contains("add-page"));
-    widget.setLocked(true);
-    widget.setReadOnly(true);
-    QCOMPARE(widget.styleSheet(), compact);
-    widget.changeSize(QStringLiteral("Max"));
-    QVERIFY(widget.styleSheet().contains("QSlider::add-page:horizontal {    border: none;}"));
 }
 
 QTEST_MAIN(tst_QKXSliderHorizontal)
