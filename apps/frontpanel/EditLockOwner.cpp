@@ -3,6 +3,7 @@
 #include "QKXEventFilterBase.h"
 #include "WidgetNaming.h"
 
+#include <QTimer>
 #include <QWidget>
 
 EditLockOwner::EditLockOwner(QObject *parent)
@@ -63,8 +64,15 @@ void EditLockOwner::request(QObject *filter, QWidget *widget)
     emit logged(QStringLiteral("lock granted %1").arg(name));
     emit lockGranted(widget);
     // Queued, as on the instrument: the filter is still inside its release handler when it asks, and
-    // a button filter answers a grant by releasing at once.
-    QMetaObject::invokeMethod(filter, "lockAcquired", Qt::QueuedConnection, Q_ARG(QWidget *, widget));
+    // a button filter answers a grant by releasing at once. A widget that let go before the grant
+    // arrives (a slider pressed and lifted at once) gets none: it would begin an edit nobody ends.
+    const QPointer<QObject> asking(filter);
+    const QPointer<QWidget> granted(widget);
+    QTimer::singleShot(0, this, [this, asking, granted] {
+        if (asking && granted && lockHolder == granted) {
+            QMetaObject::invokeMethod(asking, "lockAcquired", Q_ARG(QWidget *, granted.data()));
+        }
+    });
 }
 
 void EditLockOwner::release(QWidget *widget)

@@ -4,16 +4,30 @@
 #include "PanelScreen.h"
 
 #include "GlobalImpl.h"
+#include "QKXDPad.h"
 #include "QKXEventFilterBase.h"
+#include "QKXNumeric.h"
+#include "QKXNumericValueObj.h"
+#include "QKXNumpad.h"
+#include "QKXSliderBar.h"
+#include "QKXSpinner.h"
 #include "QKXWidgetBase.h"
 #include "SystemModule.h"
 
+#include <QApplication>
 #include <QDebug>
+#include <QKeyEvent>
 
 // Set on a widget once it is wired, and once it follows the engine, so that wiring a screen again
 // adds no second filter (every tap would be answered twice) and no second binding.
 static const char host_wiredProperty[] = "frontpanelWired";
 static const char host_followsProperty[] = "frontpanelFollowsEngine";
+// Set on a field that the arrow keys step through the direction pad.
+static const char host_directionProperty[] = "frontpanelDirectionPad";
+
+// The spinner's size: its corner keys then lie on the wheel's own circle.
+static const int host_spinnerWidth = 260;
+static const int host_spinnerHeight = 334;
 
 PanelHost::PanelHost(SimulatedEngine *engine, EditLockOwner *lockOwner, QObject *parent)
     : QObject(parent)
@@ -132,25 +146,191 @@ void PanelHost::followValue(QWidget *widget, std::function<void(const QVariant &
 
 void PanelHost::openEditorOnEditStart(QKXEventFilterBase *filter, QWidget *widget, std::function<Editor()> choose)
 {
-    connect(filter, &QKXEventFilterBase::editStart, this, [this, widget, choose](QObject *edit, QWidget *edited) {
+    openEditorsOnEditStart(filter, widget, [choose] {
         const Editor chosen = choose();
-        if (!chosen.open) {
+        return chosen.open ? QList<Editor>{chosen} : QList<Editor>();
+    });
+}
+
+void PanelHost::openEditorsOnEditStart(QKXEventFilterBase *filter, QWidget *widget, std::function<QList<Editor>()> ring)
+{
+    connect(filter, &QKXEventFilterBase::editStart, this, [this, widget, ring](QObject *edit, QWidget *edited) {
+        editedFilter = edit;
+        editedWidget = widget;
+        if (directionField == widget) {
+            // An arrow key started this edit: the direction pad serves it.
+            const int key = directionKey;
+            directionField = nullptr;
+            openDirectionPad(edit, edited, key);
+            return;
+        }
+        editorRing = ring();
+        if (editorRing.isEmpty()) {
+            editorIndex = -1;
             simulatedEngine->appendLog(QStringLiteral("edit %1: no editor for it").arg(WidgetNaming::describe(widget)));
             QMetaObject::invokeMethod(edit, "cancel", Qt::QueuedConnection);
             return;
         }
+        editorIndex = 0;
+        const Editor &chosen = editorRing.first();
         simulatedEngine->appendLog(QStringLiteral("edit %1 on the %2").arg(WidgetNaming::describe(widget), chosen.name));
-        editedWidget = widget;
         editorName = chosen.name;
         chosen.open(edit, edited);
     });
+    connect(filter, &QKXEventFilterBase::editEnd, this, [this, filter] {
+        if (editedFilter == filter) {
+            editedFilter = nullptr;
+            editorRing.clear();
+            editorIndex = -1;
+        }
+    });
+}
+
+QList<PanelHost::Editor> PanelHost::numericEditors(QKXNumeric *field)
+{
+    QList<Editor> ring;
+    if (field->hasNumpad()) {
+        ring << editor<QKXNumpad>(QStringLiteral("numeric pad"));
+    }
+    if (field->hasSpinner()) {
+        QKXSpinner *spinner = popup<QKXSpinner>(0.0, 0.0, 0, host_spinnerWidth, host_spinnerHeight);
+        // A field with units brings its limits in its unit; a plain field's are handed over here.
+        ring << Editor{QStringLiteral("spinner"),
+                       [spinner](QObject *filter, QWidget *widget) {
+                           auto *numeric = qobject_cast<QKXNumeric *>(widget);
+                           if (numeric && !qobject_cast<QKXNumericValueObj *>(widget)) {
+                               spinner->updateLimits(numeric->lowerLimit(), numeric->upperLimit());
+                           }
+                           spinner->registerWidget(filter, widget);
+                       },
+                       [spinner] { QMetaObject::invokeMethod(spinner, "unregister"); }};
+    }
+    if (field->hasSlider()) {
+        ring << editor<QKXSliderBar>(QStringLiteral("slider bar"));
+    }
+    return ring;
 }
 
 void PanelHost::rotationAsked()
 {
-    // Each family has one editor on this panel so far: the one open stays.
-    simulatedEngine->appendLog(QStringLiteral("rotate: the %1 is the only editor for %2")
-                                   .arg(editorName, WidgetNaming::describe(editedWidget)));
+    if (!editedFilter || editorRing.size() < 2 || editorIndex < 0) {
+        simulatedEngine->appendLog(QStringLiteral("rotate: the %1 is the only editor for %2")
+                                       .arg(editorName, WidgetNaming::describe(editedWidget)));
+        return;
+    }
+    const Editor from = editorRing.at(editorIndex);
+    editorIndex = (editorIndex + 1) % editorRing.size();
+    const Editor to = editorRing.at(editorIndex);
+    simulatedEngine->appendLog(QStringLiteral("rotate %1 from the %2 to the %3")
+                                   .arg(WidgetNaming::describe(editedWidget), from.name, to.name));
+    // The edit stays open: the editor lets go of it without ending it, and the next one takes it.
+    if (from.close) {
+        from.close();
+    }
+    editorName = to.name;
+    to.open(editedFilter, editedWidget);
+}
+
+void PanelHost::useDirectionPad(QKXEventFilterBase *filter, QWidget *field)
+{
+    if (field->property(host_directionProperty).toBool()) {
+        return;
+    }
+    field->setProperty(host_directionProperty, true);
+    field->setFocusPolicy(Qt::StrongFocus);
+    connect(filter, &QKXEventFilterBase::editEnd, field, [field] {
+        if (field->isVisible()) {
+            field->setFocus(Qt::OtherFocusReason);
+        }
+    });
+    if (!watchingKeys) {
+        watchingKeys = true;
+        qApp->installEventFilter(this);
+    }
+}
+
+void PanelHost::openDirectionPad(QObject *filter, QWidget *field, int key)
+{
+    QKXDPad *pad = popup<QKXDPad>();
+    const Editor pad_editor{QStringLiteral("direction pad"),
+                            [pad](QObject *edit, QWidget *edited) { pad->registerWidget(edit, edited); },
+                            [pad] { pad->unregister(); }};
+    editedFilter = filter;
+    editedWidget = field;
+    editorRing = {pad_editor};
+    editorIndex = 0;
+    editorName = pad_editor.name;
+    simulatedEngine->appendLog(QStringLiteral("edit %1 on the %2").arg(WidgetNaming::describe(field), editorName));
+    pad->registerWidget(filter, field);
+    pad->dPadKeyPressed(key);
+}
+
+bool PanelHost::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) {
+        return false;
+    }
+    int key = -1;
+    switch (static_cast<QKeyEvent *>(event)->key()) {
+    case Qt::Key_Up:
+        key = 0;
+        break;
+    case Qt::Key_Down:
+        key = 1;
+        break;
+    case Qt::Key_Left:
+        key = 2;
+        break;
+    case Qt::Key_Right:
+        key = 3;
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        key = 4;
+        break;
+    default:
+        return false;
+    }
+    // The field that has the focus, or holds the child that has it.
+    QWidget *field = static_cast<QWidget *>(watched);
+    while (field && !field->property(host_directionProperty).toBool()) {
+        field = field->parentWidget();
+    }
+    auto *attribute = qobject_cast<QKXWidgetBase *>(field);
+    if (!attribute || !attribute->isVisible() || attribute->isReadOnly()) {
+        return false;
+    }
+    QKXDPad *pad = popup<QKXDPad>();
+    if (pad->registeredWidget() == field) {
+        pad->dPadKeyPressed(key);
+        return true;
+    }
+    // Return without the pad is the field's own: a typed value commits.
+    auto *filter = qobject_cast<QKXEventFilterBase *>(attribute->getEventFilter());
+    if (key == 4 || !filter) {
+        return false;
+    }
+    if (editedFilter == filter && editorIndex >= 0) {
+        const Editor from = editorRing.at(editorIndex);
+        simulatedEngine->appendLog(QStringLiteral("keys %1: the direction pad takes over from the %2")
+                                       .arg(WidgetNaming::describe(field), from.name));
+        if (from.close) {
+            from.close();
+        }
+        openDirectionPad(filter, field, key);
+        return true;
+    }
+    if (!editLock->isFree()) {
+        return false;
+    }
+    if (qApp->property("guilocked").toBool()) {
+        emit guiLockedMessageRequested(field);
+        return true;
+    }
+    directionField = field;
+    directionKey = key;
+    filter->forceClick();
+    return true;
 }
 
 void PanelHost::showNotice(const QString &text, StatusStrip::NoticeKind kind)

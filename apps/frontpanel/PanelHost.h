@@ -16,6 +16,7 @@
 class EditLockOwner;
 class PanelScreen;
 class QKXEventFilterBase;
+class QKXNumeric;
 class QKXWidgetBase;
 
 // The host's duties towards the widgets, done once for every screen: each wired widget's filter is
@@ -28,11 +29,13 @@ class PanelHost : public QObject
 {
     Q_OBJECT
 public:
-    // A popup editor as an edit start opens it: its name in the log ("numeric pad") and how to hand
-    // it the edit. An editor without open means that no editor suits the widget.
+    // A popup editor as an edit start opens it: its name in the log ("numeric pad"), how to hand it
+    // the edit, and how to take the edit back from it without ending the edit (for a rotation to the
+    // next editor). An editor without open means that no editor suits the widget.
     struct Editor {
         QString name;
         std::function<void(QObject *filter, QWidget *widget)> open;
+        std::function<void()> close;
     };
 
     PanelHost(SimulatedEngine *engine, EditLockOwner *lockOwner, QObject *parent = nullptr);
@@ -91,22 +94,33 @@ public:
     // On each of the filter's edit starts, choose() names the editor and the edit is handed to it; an
     // editor without open gives the edit back (nobody could type into it).
     void openEditorOnEditStart(QKXEventFilterBase *filter, QWidget *widget, std::function<Editor()> choose);
+    // The same with a ring of editors: the first opens, and each rotateEntry() of the open one hands
+    // the edit, still open, to the next one round the ring. An empty ring gives the edit back.
+    void openEditorsOnEditStart(QKXEventFilterBase *filter, QWidget *widget, std::function<QList<Editor>()> ring);
+    // The numeric editors the field's Numpad, Spinner and Slider flags allow, in that order.
+    QList<Editor> numericEditors(QKXNumeric *field);
+    // The arrow keys and Return step the field through the direction pad while it has the focus: Up
+    // and Down by one step, Left and Right make the step ten times larger and smaller, Return
+    // commits. An arrow starts an edit when none is open, or takes over the open one from its popup.
+    // The field keeps the focus after each of its edits, so that the keys know which field is meant.
+    void useDirectionPad(QKXEventFilterBase *filter, QWidget *field);
     // The popup of the class for the current edit, under that name.
     template <typename Popup>
     Editor editor(const QString &name)
     {
         Popup *shown = popup<Popup>();
-        return {name, [shown](QObject *filter, QWidget *widget) { shown->registerWidget(filter, widget); }};
+        return {name, [shown](QObject *filter, QWidget *widget) { shown->registerWidget(filter, widget); },
+                [shown] { QMetaObject::invokeMethod(shown, "unregister"); }};
     }
     // The panel's one popup of the class, made on first use over the main window, in whose
-    // coordinates popups place themselves.
-    template <typename Popup>
-    Popup *popup()
+    // coordinates popups place themselves; arguments after the parent go to its constructor.
+    template <typename Popup, typename... Args>
+    Popup *popup(Args &&...args)
     {
         QWidget *window = mainWindow();
         Popup *found = window ? window->findChild<Popup *>(QString(), Qt::FindDirectChildrenOnly) : nullptr;
         if (!found) {
-            found = new Popup(window);
+            found = new Popup(window, std::forward<Args>(args)...);
             watchRotation(found, HasRotateEntry<Popup>());
         }
         return found;
@@ -119,6 +133,9 @@ public:
     static void applySizeVariant(QWidget *page);
     // A widget inside another attribute widget is one of its parts (a composite builds its own).
     static bool isPartOfAttributeWidget(const QWidget *widget, const QWidget *page);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
     // A filter saw a tap while the interface is locked; the window tells the user.
@@ -144,6 +161,8 @@ private:
     }
     // A popup asked for another editor for the current edit.
     void rotationAsked();
+    // Hands the edit to the direction pad and gives it the key.
+    void openDirectionPad(QObject *filter, QWidget *field, int key);
 
     QWidget *mainWindow() const;
 
@@ -153,6 +172,15 @@ private:
     // The edit an editor was last opened for, named in the log when the editor asks to rotate.
     QPointer<QWidget> editedWidget;
     QString editorName;
+    // The open edit's filter and its ring of editors, with the one that has the edit; cleared when
+    // the edit ends.
+    QPointer<QObject> editedFilter;
+    QList<Editor> editorRing;
+    int editorIndex = -1;
+    // An arrow key that started an edit, waiting for the edit to begin.
+    QPointer<QWidget> directionField;
+    int directionKey = -1;
+    bool watchingKeys = false;
 };
 
 #endif // PANELHOST_H

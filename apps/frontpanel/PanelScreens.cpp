@@ -12,6 +12,7 @@ std::vector<std::unique_ptr<PanelScreen>> createPanelScreens()
     screens.emplace_back(new NumericScreen);
     screens.emplace_back(new UnitsScreen);
     screens.emplace_back(new ChoicesScreen);
+    screens.emplace_back(new SlidersScreen);
     screens.emplace_back(new SettingsScreen);
     return screens;
 }

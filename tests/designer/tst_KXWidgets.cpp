@@ -22,6 +22,7 @@ private:
 private slots:
     void pluginLoaderHandsOutOneCollection();
     void pushButtonPluginDescribesTheWidget();
+    void sliderPluginsDescribeTheirWidgets();
     void initializeIsIdempotent();
     void createWidgetBuildsAParentlessWidget();
     void verificationTextIsExported();
@@ -79,6 +80,18 @@ void tst_KXWidgets::pushButtonPluginDescribesTheWidget()
     QCOMPARE(plugin->domXml(), QStringLiteral("<widget class=\"QKXPushButton\" name=\"QKXPushButton\">\n</widget>\n"));
     QCOMPARE(dynamic_cast<QObject *>(plugin)->objectName(), QStringLiteral("QKXPushButtonPlugin"));
     QVERIFY(!plugin->isInitialized());
+}
+
+void tst_KXWidgets::sliderPluginsDescribeTheirWidgets()
+{
+    // Forms name a new vertical slider as they always have.
+    QObject owner;
+    QDesignerCustomWidgetInterface *horizontal = pluginNamed(QStringLiteral("QKXSliderHorizontal"), &owner);
+    QDesignerCustomWidgetInterface *vertical = pluginNamed(QStringLiteral("QKXSliderVertical"), &owner);
+    QVERIFY(horizontal && vertical);
+    QCOMPARE(horizontal->whatsThis() + '|' + vertical->whatsThis(), QStringLiteral("Horizontal Slider|Vertical Slider"));
+    QCOMPARE(horizontal->domXml(), QStringLiteral("<widget class=\"QKXSliderHorizontal\" name=\"QKXSliderHorizontal\">\n</widget>\n"));
+    QCOMPARE(vertical->domXml(), QStringLiteral("<widget class=\"QKXSliderVertical\" name=\"QKXSliderVertial\">\n</widget>\n"));
 }
 
 void tst_KXWidgets::initializeIsIdempotent()

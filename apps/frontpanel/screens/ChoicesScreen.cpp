@@ -225,22 +225,23 @@ static bool choices_tapChannelRow(ScreenRunner &runner)
     SimulatedEngine *engine = runner.engine();
     EditLockOwner *lock = runner.lockOwner();
     QWidget *rows = view->viewport();
-    engine->appendLog(QStringLiteral("drag the channel table up"));
-    for (int stroke = 0; stroke < 2; ++stroke) {
-        ScreenRunner::drag(rows, rows->mapToGlobal(QPoint(rows->width() / 2, rows->height() - 20)), -(rows->height() - 60));
-    }
     int wanted = -1;
     for (int row = 0; row < table->rowCount(); ++row) {
         if (table->getRowIndex(row) == 70) {
             wanted = row;
         }
     }
-    const QRect cell = wanted >= 0 ? view->visualRect(view->model()->index(wanted, 1)) : QRect();
-    if (!rows->rect().contains(cell.center())) {
+    const auto cell = [&] { return wanted >= 0 ? view->visualRect(view->model()->index(wanted, 1)) : QRect(); };
+    // Strokes of most of the table's height until the row shows: a shorter page shows fewer rows.
+    engine->appendLog(QStringLiteral("drag the channel table up"));
+    for (int stroke = 0; stroke < 6 && !rows->rect().contains(cell().center()); ++stroke) {
+        ScreenRunner::drag(rows, rows->mapToGlobal(QPoint(rows->width() / 2, rows->height() - 20)), -(rows->height() - 60));
+    }
+    if (!rows->rect().contains(cell().center())) {
         return runner.fail(QStringLiteral("channel 70 did not come into sight in the table"));
     }
     engine->appendLog(QStringLiteral("tap channel 70"));
-    ScreenRunner::tap(rows, cell.center());
+    ScreenRunner::tap(rows, cell().center());
     if (!runner.waitFor([&] { return lock->isFree() && table->currentIndex() == 70; })
         || engine->value(attribute).toInt() != 70) {
         return runner.fail(QStringLiteral("after the tap on channel 70 the engine holds %1 and the table %2")

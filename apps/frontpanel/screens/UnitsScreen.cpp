@@ -190,12 +190,15 @@ void UnitsScreen::wire(PanelHost &host, QWidget *page)
             const QString unit = engine->unitString(WidgetNaming::boundAttribute(field));
             field->setValue(value.toDouble(), unit.isEmpty() ? field->baseUnit() : unit);
         });
-        host.openEditorOnEditStart(filter, field, [&host, list] {
+        host.openEditorsOnEditStart(filter, field, [&host, list, field] {
             if (list && list->getParamType() == QLatin1String("List")) {
-                return host.editor<QKXDoubleValueList>(QStringLiteral("discrete value list"));
+                return QList<PanelHost::Editor>{host.editor<QKXDoubleValueList>(QStringLiteral("discrete value list"))};
             }
-            return host.editor<QKXNumpad>(QStringLiteral("numeric pad"));
+            return host.numericEditors(field);
         });
+        if (!list) {
+            host.useDirectionPad(filter, field);
+        }
         return filter;
     });
 }
