@@ -7,6 +7,7 @@
 #include "CSS.h"
 
 #include <QApplication>
+#include <QDebug>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -69,6 +70,74 @@ void QKXKeyPadBasePrivate::mirror()
     if (entry) {
         display->setText(entry->text());
     }
+}
+
+bool QKXKeyPadBasePrivate::backspace()
+{
+    const int position = entry->cursorPosition();
+    if (position <= 0) {
+        return false;
+    }
+    QString text = entry->text();
+    text.remove(position - 1, 1);
+    // A sign on its own is no number worth keeping.
+    if (text == QLatin1String("-")) {
+        text.clear();
+    }
+    entry->setText(text);
+    mirror();
+    entry->setCursorPosition(position - 1);
+    return true;
+}
+
+bool QKXKeyPadBasePrivate::typeKey(QPushButton *key)
+{
+    if (!entry || !key) {
+        return false;
+    }
+    if (key == buttons.value(QStringLiteral("bksp"))) {
+        return backspace();
+    }
+    if (key == buttons.value(QStringLiteral("clear"))) {
+        entry->clear();
+    } else {
+        entry->insert(key->text());
+    }
+    mirror();
+    return true;
+}
+
+void QKXKeyPadBasePrivate::registerTextField(QObject *newFilter, QWidget *newWidget, const char *unknownTypeLine)
+{
+    Q_Q(QKXKeyPadBase);
+    if (unknownTypeLine) {
+        dataType = newFilter ? newFilter->property("DataType").toString() : QString();
+    }
+    if (filter && widget) {
+        // One edit at a time: the edit the pad was serving gives its text back first.
+        QMetaObject::invokeMethod(filter, "cancel");
+        q->resetWidgets();
+    }
+    filter = newFilter;
+    widget = newWidget;
+    entry = newWidget ? newWidget->findChild<QLineEdit *>() : nullptr;
+    if (!entry) {
+        return;
+    }
+    const QList<QPushButton *> keys = q->getContainerFrame()->findChildren<QPushButton *>();
+    for (QPushButton *key : keys) {
+        key->setFocusProxy(entry);
+    }
+    display->setText(entry->text());
+
+    QKXPopupChain::chain(q, newFilter, SIGNAL(cancelEntry()), SIGNAL(done()));
+    QObject::connect(entry.data(), &QLineEdit::textEdited, display, &QLineEdit::setText);
+    if (!unknownTypeLine || dataType == QLatin1String("TextString")) {
+        QKXPopupChain::forward(q, newFilter, SIGNAL(submit(QString)));
+    } else {
+        qDebug() << unknownTypeLine << dataType << "Widget:" << newWidget;
+    }
+    q->show();
 }
 
 double QKXKeyPadBasePrivate::widgetLimit(const char *name) const
@@ -251,6 +320,11 @@ void QKXKeyPadBase::createControlButtons()
 void QKXKeyPadBase::createNumpadButtons()
 {
     Q_D(QKXKeyPadBase);
+    // 0 first, so that the last digit placed is 9: the keypads above place their keys from its row
+    // and column.
+    QPushButton *zero = createButton(QStringLiteral("0"), SLOT(buttonPress()), QStringLiteral("kbBtnBottom"));
+    d->buttons.insert(QStringLiteral("0"), zero);
+    d->digitGrid->addWidget(zero, 3, 1);
     for (int digit = 1; digit <= 9; ++digit) {
         const QString name = QString::number(digit);
         const bool leftColumn = (digit - 1) % 3 == 0;
@@ -261,11 +335,6 @@ void QKXKeyPadBase::createNumpadButtons()
         d->gridColumn = (digit - 1) % 3;
         d->digitGrid->addWidget(button, d->gridRow, d->gridColumn);
     }
-    QPushButton *zero = createButton(QStringLiteral("0"), SLOT(buttonPress()), QStringLiteral("kbBtnBottom"));
-    d->buttons.insert(QStringLiteral("0"), zero);
-    d->gridRow = 3;
-    d->gridColumn = 1;
-    d->digitGrid->addWidget(zero, d->gridRow, d->gridColumn);
 }
 
 void QKXKeyPadBase::createEnterButtons()
@@ -329,6 +398,10 @@ void QKXKeyPadBase::resetWidgets()
     // Every connection between the two goes, whoever made it: a host hands edits to the pad through
     // a receiver of its own, not by connecting a filter's editStart() to registerWidget().
     QKXPopupChain::unchainAll(this, d->filter);
+    // The keypads mirror what is typed on a real keyboard straight into the display.
+    if (d->entry) {
+        disconnect(d->entry.data(), nullptr, d->display, nullptr);
+    }
     for (QPushButton *button : qAsConst(d->buttons)) {
         button->setFocusProxy(nullptr);
     }

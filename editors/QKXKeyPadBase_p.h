@@ -33,6 +33,18 @@ public:
 
     // Copies the edited text into the pad's own display.
     void mirror();
+    // The character before the cursor goes, and a sign left on its own goes with it; the display
+    // follows. False, with nothing changed, at the start of the text.
+    bool backspace();
+    // A key of the signalling keypads: backspace, clear, or its caption typed at the cursor (over any
+    // selection), the display following. False when the key changed nothing.
+    bool typeKey(QPushButton *key);
+    // Registration of a text field on the signalling keypads: an edit the pad was serving is cancelled
+    // first; a field without a line edit is not taken. Given an unknownTypeLine, only a filter whose
+    // "DataType" is "TextString" gets the pad's commits, and the others that line on the debug stream;
+    // without one, every filter gets them.
+    void registerTextField(QObject *filter, QWidget *widget, const char *unknownTypeLine);
+
     // The registered widget's limit property, 0 when it has none.
     double widgetLimit(const char *name) const;
     bool limitsNegative() const;

@@ -85,19 +85,7 @@ void QKXNumpadPrivate::submitWithUnit(QObject *key, double value, bool integral)
 void QKXNumpadPrivate::pressKey(const QString &name, QPushButton *key)
 {
     if (name == QLatin1String("bksp")) {
-        const int position = entry->cursorPosition();
-        if (position <= 0) {
-            return;
-        }
-        QString text = entry->text();
-        text.remove(position - 1, 1);
-        // A sign on its own is no number worth keeping.
-        if (text == QLatin1String("-")) {
-            text.clear();
-        }
-        entry->setText(text);
-        mirror();
-        entry->setCursorPosition(position - 1);
+        backspace();
     } else if (name == QLatin1String("plmin")) {
         QString text = entry->text();
         if (text.isEmpty() || entry->hasSelectedText()) {
@@ -283,7 +271,7 @@ void QKXNumpad::registerWidget(QObject *filter, QWidget *widget)
         // A dotted address: digits and dots, no sign.
         dot->setEnabled(true);
         d->buttons.value(QStringLiteral("plmin"))->setEnabled(false);
-        connect(this, SIGNAL(submit(QString)), filter, SIGNAL(submit(QString)));
+        QKXPopupChain::forward(this, filter, SIGNAL(submit(QString)));
     } else {
         qDebug() << "UserInterface - QKXNumpad attempting to register unknown data type:" << d->dataType
                  << "Widget:" << widget;

@@ -62,6 +62,15 @@ QString ContainerBasePrivate::frameStyleSheet(bool border)
              CSS::gradientLight());
 }
 
+void ContainerBasePrivate::applyFrameStyleSheet(QFrame *frame, bool border)
+{
+    const QString current = frame->styleSheet();
+    if (!current.isEmpty() && current != frameStyleSheet(true) && current != frameStyleSheet(false)) {
+        return;
+    }
+    frame->setStyleSheet(frameStyleSheet(border));
+}
+
 QString ContainerBasePrivate::closeKeyText()
 {
     return ContainerBase::tr("Close");
@@ -173,7 +182,7 @@ void ContainerBase::setBorder(bool border)
         return;
     }
     d->border = border;
-    d->borderFrame->setStyleSheet(ContainerBasePrivate::frameStyleSheet(border));
+    ContainerBasePrivate::applyFrameStyleSheet(d->borderFrame, border);
 }
 
 bool ContainerBase::hasBorder() const

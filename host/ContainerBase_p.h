@@ -24,6 +24,9 @@ public:
     // The sheet of the "BorderFrame" and its title bar. Selectors are by object name only, so an
     // editor's own content never inherits the container's look.
     static QString frameStyleSheet(bool border);
+    // Gives the frame the container's own sheet, unless an editor has given it a sheet of its own
+    // (a popup that draws its whole panel makes the frame transparent): the editor's stays.
+    static void applyFrameStyleSheet(QFrame *frame, bool border);
 
     // The text of the title bar's close key, in the ContainerBase translation context.
     static QString closeKeyText();

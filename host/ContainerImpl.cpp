@@ -88,7 +88,7 @@ void ContainerImpl::init()
 
 void ContainerImpl::updateStyle()
 {
-    borderFrame()->setStyleSheet(ContainerBasePrivate::frameStyleSheet(hasBorder()));
+    ContainerBasePrivate::applyFrameStyleSheet(borderFrame(), hasBorder());
 }
 
 void ContainerImpl::retranslate()

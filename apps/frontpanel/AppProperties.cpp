@@ -5,6 +5,7 @@
 #include <QVariant>
 
 static const char appPropSize[] = "-size";
+static const char appPropResolution[] = "-res";
 static const char appPropGuiLocked[] = "guilocked";
 static const char appPropState[] = "state";
 
@@ -28,6 +29,9 @@ bool setDisplayMode(const QString &mode)
         return false;
     }
     qApp->setProperty(appPropSize, mode);
+    // The screen's resolution goes with the mode: the portrait panel is the 480 x 800 screen, whose
+    // keyboard is the compact one.
+    qApp->setProperty(appPropResolution, isPortrait(mode) ? QStringLiteral("480x800") : QStringLiteral("800x480"));
     return true;
 }
 

@@ -12,7 +12,8 @@ namespace AppProperties {
 // variant the host asks for.
 QStringList displayModes();
 QString displayMode();
-// False, and nothing changes, for a mode the widgets do not know.
+// False, and nothing changes, for a mode the widgets do not know. Also sets "-res", the screen's
+// resolution: "480x800" for the portrait mode, "800x480" for the others.
 bool setDisplayMode(const QString &mode);
 // Whether the mode stands the panel on its side, 480 x 800 ("small_portrait").
 bool isPortrait(const QString &mode);

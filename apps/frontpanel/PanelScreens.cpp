@@ -14,5 +14,6 @@ std::vector<std::unique_ptr<PanelScreen>> createPanelScreens()
     screens.emplace_back(new ChoicesScreen);
     screens.emplace_back(new SlidersScreen);
     screens.emplace_back(new SettingsScreen);
+    screens.emplace_back(new TextScreen);
     return screens;
 }

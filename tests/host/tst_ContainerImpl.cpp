@@ -135,6 +135,12 @@ void tst_ContainerImpl::borderAndCloseKey()
     popup.setBorder(true);
     QVERIFY(borderFrameRule(popup).contains(CSS::border()));
     QVERIFY(!borderFrameRule(popup).contains(QLatin1String("border: none")));
+    // An editor that draws its whole panel makes the frame transparent; the container leaves that be.
+    const QString transparent = QStringLiteral("QFrame#BorderFrame { background-color: transparent; border: none; }");
+    popup.borderFrame()->setStyleSheet(transparent);
+    popup.setBorder(false);
+    popup.updateStyle();
+    QCOMPARE(popup.borderFrame()->styleSheet(), transparent);
 
     auto *key = popup.findChild<QPushButton *>(QStringLiteral("ContainerClose"));
     popup.setWindowTitle(QStringLiteral("Keyboard"), ContainerBase::CloseButton);
