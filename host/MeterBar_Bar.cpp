@@ -19,7 +19,8 @@ const QColor meterbar_blue(0x00, 0x33, 0xdd);
 const QColor meterbar_yellow(0xfe, 0xfe, 0x00);
 const QColor meterbar_grey(0x70, 0x70, 0x70);
 
-const QColor meterbar_track(0, 0, 0, 110);
+// Opaque, so that a reading repaints the bar alone and not the styled frames behind it.
+const QColor meterbar_track(0x1f, 0x26, 0x2e);
 const QColor meterbar_marks(255, 255, 255, 130);
 
 int meterbar_knownState(int barState)
@@ -55,6 +56,7 @@ MeterBar_Bar::MeterBar_Bar(QWidget *parent)
     , horizontal(false)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 MeterBar_Bar::~MeterBar_Bar() = default;

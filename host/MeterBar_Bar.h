@@ -16,7 +16,7 @@
 // The meter hands over numbers as it has them, limits in either order included: the track always
 // runs from the lower limit at the bottom (or left) to the upper one. A reading that does not move
 // the fill by a pixel, in the same state, repaints nothing; one that does repaints only the stretch
-// between the old and the new end.
+// between the old and the new end. The track is opaque, so nothing behind the bar is repainted.
 class NORVANEHOST_EXPORT MeterBar_Bar : public QWidget
 {
     Q_OBJECT

@@ -42,9 +42,15 @@ QString recordProblem(const QVariant &record)
     return QString();
 }
 
-void readValueRecord(const QVariantList &record, Norvane::Value::Value_object<double> &result)
+void readValueRecord(const QVariantList &record, Norvane::Value::Value_object<double> &result, UnitsMemo &memo)
 {
-    result.Set_unit(ValueHelper::convertToUnits(record.value(0).toString()));
+    const QString text = record.value(0).toString();
+    if (!memo.valid || text != memo.text) {
+        memo.text = text;
+        memo.units = ValueHelper::convertToUnits(text);
+        memo.valid = ValueHelper::toString(memo.units) == text;
+    }
+    result.Set_unit(memo.units);
     result.Set_plus_minus_err(record.value(2).toDouble(), record.value(1).toDouble());
     result.Set_value(record.value(3).toDouble());
 }

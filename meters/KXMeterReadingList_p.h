@@ -30,8 +30,18 @@ QString describe(const QVariant &value);
 // otherwise what is wrong with it.
 QString recordProblem(const QVariant &record);
 
+// The last units property string read into a record, and what it reads as. Engines send the same few
+// strings with every reading; a string the units helper would not write back the same way (and
+// reports on the debug stream) is never kept, so it is read, and reported, every time.
+struct UnitsMemo
+{
+    QString text;
+    Norvane::Value::Units units;
+    bool valid = false;
+};
+
 // The value object of a readable value record: its unit, its errors (plus error first) and its value.
-void readValueRecord(const QVariantList &record, Norvane::Value::Value_object<double> &result);
+void readValueRecord(const QVariantList &record, Norvane::Value::Value_object<double> &result, UnitsMemo &memo);
 
 // True when the status flags up to elements `last` can be read as booleans; otherwise false, with
 // what is wrong.

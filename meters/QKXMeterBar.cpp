@@ -18,6 +18,7 @@
 #include <QVBoxLayout>
 
 #include <cmath>
+#include <cstring>
 #include <utility>
 
 using Norvane::Value::Units;
@@ -62,6 +63,7 @@ QKXMeterBarPrivate::QKXMeterBarPrivate(QKXMeterBar *q)
     , updatedOnce(false)
     , displayUnits(ValueHelper::convertToUnits(QStringLiteral("0,0,0:0;0:0;0:0;0:0;0:0")))
     , noReading(false)
+    , scaleShown(false)
 {
 }
 
@@ -418,11 +420,11 @@ void QKXMeterBarPrivate::processData(bool flag4, bool flag1, bool flag6, bool fl
     Value_object<double> value;
     Value_object<double> lower;
     Value_object<double> upper;
-    kxmeters::readValueRecord(reading, value);
-    kxmeters::readValueRecord(lowerLimit, lower);
-    kxmeters::readValueRecord(upperLimit, upper);
+    kxmeters::readValueRecord(reading, value, readingUnits[0]);
+    kxmeters::readValueRecord(lowerLimit, lower, readingUnits[1]);
+    kxmeters::readValueRecord(upperLimit, upper, readingUnits[2]);
     // The reading's own unit, read from the same text as the value's.
-    const Units readingUnits = value.Get_unit();
+    const Units ownUnits = value.Get_unit();
     const QString oldText = ValueHelper::getUnitString(displayUnits);
 
     if (unitIndexValue >= 0 && !unitList.isEmpty()) {
@@ -432,7 +434,7 @@ void QKXMeterBarPrivate::processData(bool flag4, bool flag1, bool flag6, bool fl
         }
         displayUnits = unitList.at(unitIndexValue);
     } else {
-        displayUnits = readingUnits;
+        displayUnits = ownUnits;
         try {
             const Units units = value.Get_unit();
             // A unit flagged as fixed is shown as it comes; any other gets the prefix that reads
@@ -509,6 +511,16 @@ void QKXMeterBarPrivate::updateBarReading(Value_object<double> value, Value_obje
 
 void QKXMeterBarPrivate::setBarScale(double max, int maxDigits, double min, int minDigits, const QString &unitText)
 {
+    // Limits and unit seldom change: the same scale would only write the same texts again. Compared
+    // bit for bit, since -0.0 and 0.0 are written differently.
+    const ScaleShown next{max, min, maxDigits, minDigits, unitText};
+    if (scaleShown && std::memcmp(&next.max, &shownScale.max, sizeof(double)) == 0
+        && std::memcmp(&next.min, &shownScale.min, sizeof(double)) == 0 && next.maxDigits == shownScale.maxDigits
+        && next.minDigits == shownScale.minDigits && next.unitText == shownScale.unitText) {
+        return;
+    }
+    shownScale = next;
+    scaleShown = true;
     const QString top = QLatin1Char(' ') + QString::number(max, 'f', maxDigits) + QLatin1Char(' ') + unitText;
     const QString bottom = QLatin1Char(' ') + QString::number(min, 'f', minDigits) + QLatin1Char(' ') + unitText;
     maxScale->setText(top);

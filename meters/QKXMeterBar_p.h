@@ -10,6 +10,8 @@
 #include "QKXMeterBar.h"
 #include "QKXWidgetBase_p.h"
 
+#include "KXMeterReadingList_p.h"
+
 #include "Units.h"
 #include "Value_object.h"
 
@@ -99,6 +101,20 @@ public:
     // Status flag 1 of the reading list being drawn: a reading that is no number is then simply
     // absent, not an error.
     bool noReading;
+
+    // The units strings last read for the reading and the two limits.
+    kxmeters::UnitsMemo readingUnits[3];
+    // What the scale labels were last given.
+    struct ScaleShown
+    {
+        double max;
+        double min;
+        int maxDigits;
+        int minDigits;
+        QString unitText;
+    };
+    ScaleShown shownScale;
+    bool scaleShown;
 
 public Q_SLOTS:
     void updateMarkerPositions();
