@@ -152,6 +152,9 @@ struct Meters
     QLineEdit *display;
 };
 
+// Both live until the process ends: destroying the application at exit, with widgets left behind by
+// libFuzzer's exit path, crashes in Qt's own clean-up.
+QApplication *application = nullptr;
 Meters *meters = nullptr;
 
 } // namespace
@@ -160,7 +163,7 @@ extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(discard);
-    static QApplication app(*argc, *argv);
+    application = new QApplication(*argc, *argv);
     meters = new Meters;
     QApplication::processEvents();
     return 0;

@@ -27,6 +27,9 @@ public:
     virtual int readingTypeIndex() const;
     virtual void setReadingTypeIndex(int index);
     virtual QVariant readingTypes() const;
+    // A unit the last reading has no number in (a huge value in a smaller unit, a level of nothing)
+    // keeps the text shown before.
+    void selectUnitIndex(int index) override;
 
     int readingTypeIndexValue;
     bool noReading;
@@ -43,6 +46,8 @@ public:
 
     // Status flag 2 of the reading being shown: its text carries " ?".
     bool doubtful;
+    // A reading's value has been shown.
+    bool showsReading;
     // The read-only fragment of the plain numeric field: the meter's look has no selector frame to
     // colour.
     QString numericReadOnlyStyle;
@@ -73,6 +78,7 @@ QKXNumericMeterReadingPrivate::QKXNumericMeterReadingPrivate(QKXNumericMeterRead
     , yellowStyle(QStringLiteral("QLineEdit:disabled {  background-color: #FEFE00;  color: black;}"))
     , greyStyle(QStringLiteral("QLineEdit:disabled {  background-color: #707070;  color: #484848;}"))
     , doubtful(false)
+    , showsReading(false)
     , numericReadOnlyStyle(QKXNumericPrivate::readOnlyStyleTemplate())
 {
     precisionValue = 4;
@@ -171,6 +177,20 @@ void QKXNumericMeterReadingPrivate::setValueText(double value)
     }
 }
 
+void QKXNumericMeterReadingPrivate::selectUnitIndex(int index)
+{
+    const QString before = lineEdit->text();
+    QKXNumericValueObjPrivate::selectUnitIndex(index);
+    const double shown = displayValue(currentValue);
+    if (!std::isfinite(shown) && lineEdit->text() != before) {
+        lineEdit->setText(before);
+        // Before the first reading the value is no reading: nothing to report.
+        if (showsReading) {
+            reportIgnored(QStringLiteral("reading %1 has no number in %2").arg(currentValue).arg(currentUnitName()));
+        }
+    }
+}
+
 void QKXNumericMeterReadingPrivate::setValue(const QVariant &readingList)
 {
     const QVariantList list = readingList.toList();
@@ -244,6 +264,7 @@ void QKXNumericMeterReadingPrivate::setValue(const double &value, const QString 
             return;
         }
         QKXNumericValueObjPrivate::setValue(value);
+        showsReading = true;
     }
     if (flags.size() < kxmeters::LastFlag) {
         return;

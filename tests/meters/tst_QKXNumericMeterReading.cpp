@@ -61,6 +61,7 @@ private slots:
     void unreadableReadingListsKeepTheDisplay_data();
     void unreadableReadingListsKeepTheDisplay();
     void plainLookWithoutUnit();
+    void unitWithoutTheNumberKeepsTheText();
 };
 
 void tst_QKXNumericMeterReading::textAndStatusColour_data()
@@ -219,6 +220,21 @@ void tst_QKXNumericMeterReading::plainLookWithoutUnit()
     QVERIFY(reading.styleSheet().startsWith(
         QStringLiteral("QLineEdit {    padding: 1px 5px 0px 5px;    margin: 0px;    border: 2px solid #fff;")));
     QVERIFY(reading.styleSheet().endsWith(QStringLiteral("QLineEdit:disabled {  background-color: #E00;}")));
+}
+
+void tst_QKXNumericMeterReading::unitWithoutTheNumberKeepsTheText()
+{
+    QKXNumericMeterReading reading;
+    reading.setObjectName(QStringLiteral("sinadReading"));
+    reading.setBaseUnit(hertzUnits());
+    reading.setUnitListString(hertzUnits() + QStringLiteral("|0,-3,1:1;0:0;0:0;0:0;0:0"));
+    reading.setValue(QVariant(readingList(valueRecord(hertzUnits(), 1e307), {}, 0.0, 1.0)));
+    const QString shown = reading.findChild<QLineEdit *>()->text();
+    DebugLines lines;
+    reading.setUnitIndex(1);   // 1e310 mHz
+    QCOMPARE(reading.findChild<QLineEdit *>()->text(), shown);
+    QCOMPARE(lines.lines(), QStringList{QStringLiteral(
+                                "UserInterface - QKXNumericMeterReading \"sinadReading\" reading 1e+307 has no number in mHz - display kept")});
 }
 
 QTEST_MAIN(tst_QKXNumericMeterReading)

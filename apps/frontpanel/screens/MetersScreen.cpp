@@ -108,8 +108,8 @@ QString MetersScreen::id() const
 void MetersScreen::addAttributes(SimulatedEngine &simulated)
 {
     engine = &simulated;
-    simulated.addValue(QStringLiteral("PowerReading"), powerReading(0));
-    simulated.addValue(QStringLiteral("FrequencyError"), frequencyErrorReading(0));
+    simulated.addMeasurement(QStringLiteral("PowerReading"), powerReading(0));
+    simulated.addMeasurement(QStringLiteral("FrequencyError"), frequencyErrorReading(0));
     // The measurement runs whether or not the screen is shown; hidden meters only keep the lists.
     clock = new QTimer(this);
     clock->setInterval(100);
@@ -120,8 +120,8 @@ void MetersScreen::addAttributes(SimulatedEngine &simulated)
 void MetersScreen::publish(int next)
 {
     tick = next;
-    engine->setValue(QStringLiteral("PowerReading"), powerReading(tick));
-    engine->setValue(QStringLiteral("FrequencyError"), frequencyErrorReading(tick));
+    engine->publish(QStringLiteral("PowerReading"), powerReading(tick));
+    engine->publish(QStringLiteral("FrequencyError"), frequencyErrorReading(tick));
 }
 
 QWidget *MetersScreen::createPage()
