@@ -355,6 +355,10 @@ void PanelHost::applySizeVariant(QWidget *page)
         if (isPartOfAttributeWidget(widget, page)) {
             continue;
         }
+        // A size of the form's own choosing (a meter bar laid out horizontally is "Thumb") stays.
+        if (widget->currentSize() != QLatin1String("Min") && widget->currentSize() != QLatin1String("Max")) {
+            continue;
+        }
         // A request for the sheet already in force is ignored without reading the display mode, so
         // after a mode change a widget showing "Max" must pass through "Min" to look again.
         widget->changeSize(QStringLiteral("Min"));

@@ -129,7 +129,8 @@ public:
     void showNotice(const QString &text, StatusStrip::NoticeKind kind = StatusStrip::Information);
 
     // Asks every attribute widget under the page for its large look; in the compact display modes
-    // the widgets keep their compact one themselves.
+    // the widgets keep their compact one themselves. A widget in a size of its own (a horizontal
+    // meter bar's "Thumb") keeps it.
     static void applySizeVariant(QWidget *page);
     // A widget inside another attribute widget is one of its parts (a composite builds its own).
     static bool isPartOfAttributeWidget(const QWidget *widget, const QWidget *page);

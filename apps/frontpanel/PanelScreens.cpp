@@ -15,5 +15,6 @@ std::vector<std::unique_ptr<PanelScreen>> createPanelScreens()
     screens.emplace_back(new SlidersScreen);
     screens.emplace_back(new SettingsScreen);
     screens.emplace_back(new TextScreen);
+    screens.emplace_back(new MetersScreen);
     return screens;
 }

@@ -63,6 +63,25 @@ void SimulatedEngine::addValue(const QString &name, const QVariant &preset)
     values.insert(name, preset);
 }
 
+void SimulatedEngine::addMeasurement(const QString &name, const QVariant &first)
+{
+    if (hasAttribute(name)) {
+        return;
+    }
+    values.insert(name, first);
+    measurements.insert(name);
+}
+
+bool SimulatedEngine::publish(const QString &name, const QVariant &value)
+{
+    if (!measurements.contains(name)) {
+        return false;
+    }
+    values.insert(name, value);
+    emit valueChanged(name, value);
+    return true;
+}
+
 void SimulatedEngine::addCommand(const QString &name, const QString &label, const std::function<void()> &effect)
 {
     if (hasAttribute(name)) {

@@ -2,6 +2,7 @@
 #define SIMULATEDENGINE_H
 
 #include <QHash>
+#include <QSet>
 #include <QObject>
 #include <QStringList>
 #include <QVariantMap>
@@ -31,6 +32,11 @@ public:
     // A value attribute; Preset gives it preset back. Declaring an attribute twice keeps the first
     // declaration: two screens may show the same attribute.
     void addValue(const QString &name, const QVariant &preset);
+    // A measurement the engine publishes many times a second (a meter's reading list). Preset leaves
+    // it alone, and publishing it writes no log line: the log is the transcript of what was done.
+    void addMeasurement(const QString &name, const QVariant &first);
+    // The measurement's new value, announced with valueChanged(). False for anything else.
+    bool publish(const QString &name, const QVariant &value);
     // A command attribute. The label names it to the user ("Start sweep"); the effect runs each time
     // the command does.
     void addCommand(const QString &name, const QString &label, const std::function<void()> &effect = {});
@@ -122,6 +128,7 @@ private:
     QHash<QString, QVariant> records;
     QHash<QString, QString> unitStrings;
     QHash<QString, QList<double>> discreteLists;
+    QSet<QString> measurements;
 };
 
 #endif // SIMULATEDENGINE_H

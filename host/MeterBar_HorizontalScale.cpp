@@ -1,0 +1,9 @@
+#include "MeterBar_HorizontalScale.h"
+
+MeterBar_HorizontalScale::MeterBar_HorizontalScale(const QString &text, QWidget *parent)
+    : MeterBar_Scale(text, parent)
+{
+    setAlignment(Qt::AlignCenter);
+}
+
+MeterBar_HorizontalScale::~MeterBar_HorizontalScale() = default;
