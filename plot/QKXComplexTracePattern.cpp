@@ -48,7 +48,7 @@ QwtSymbol::Style QKXComplexTracePatternPrivate::convertToQwtSymbolStyle(QKXCompl
     case QKXComplexTracePattern::STAR:
         return QwtSymbol::Star1;
     }
-    qDebug() << "UserInterface - Unknown pattern style: " << int(style);
+    qDebug().nospace() << "UserInterface - Unknown pattern style: " << int(style);
     return QwtSymbol::Ellipse;
 }
 
