@@ -9,18 +9,91 @@
 
 #include <algorithm>
 #include <climits>
+#include <cstring>
+#include <limits>
 #include <cmath>
 #include <vector>
 
+// Points per summarised block of a trace.
+static const int kx_blockSize = 64;
+
 KXTraceData::KXTraceData(const double *x, const double *y, int size)
-    : bounds(1.0, 1.0, -2.0, -2.0)
-    , sortedByX(true)
 {
+    assign(x, y, size);
+}
+
+void KXTraceData::assign(const double *x, const double *y, int size)
+{
+    bounds = QRectF(1.0, 1.0, -2.0, -2.0);
+    sortedByX = true;
+    runs.clear();
+    blockLow.clear();
+    blockHigh.clear();
     if (!x || !y || size <= 0) {
+        xs.clear();
+        ys.clear();
+        xFinite = false;
         return;
     }
-    xs = QVector<double>(x, x + size);
-    ys = QVector<double>(y, y + size);
+    // The usual trace, every value finite, takes one pass over x and one over y: copy, check and,
+    // for y, summarise each block. A spectrum keeps its x values from one trace to the next; found
+    // unchanged, they need neither copy nor check.
+    const bool sameX = xFinite && size == int(xs.size())
+        && std::memcmp(x, xs.data(), size_t(size) * sizeof(double)) == 0;
+    if (!sameX) {
+        xs.resize(size_t(size));
+        bool finite = true;
+        bool sorted = true;
+        double previous = x[0];
+        for (int i = 0; i < size; ++i) {
+            const double xi = x[i];
+            xs[size_t(i)] = xi;
+            finite &= std::fabs(xi) <= std::numeric_limits<double>::max();
+            sorted &= xi >= previous;
+            previous = xi;
+        }
+        xFinite = finite;
+        xSorted = sorted;
+        if (finite && sorted) {
+            xLow = x[0];
+            xHigh = x[size - 1];
+        } else if (finite) {
+            const auto span = std::minmax_element(x, x + size);
+            xLow = *span.first;
+            xHigh = *span.second;
+        }
+    }
+    ys.resize(size_t(size));
+    const int blocks = (size + kx_blockSize - 1) / kx_blockSize;
+    blockLow.resize(size_t(blocks));
+    blockHigh.resize(size_t(blocks));
+    bool yFinite = true;
+    for (int b = 0; b < blocks; ++b) {
+        const int begin = b * kx_blockSize;
+        const int end = std::min(size, begin + kx_blockSize);
+        double low = y[begin];
+        double high = y[begin];
+        for (int i = begin; i < end; ++i) {
+            const double yi = y[i];
+            ys[size_t(i)] = yi;
+            yFinite &= std::fabs(yi) <= std::numeric_limits<double>::max();
+            low = yi < low ? yi : low;
+            high = yi > high ? yi : high;
+        }
+        blockLow[size_t(b)] = low;
+        blockHigh[size_t(b)] = high;
+    }
+    if (xFinite && yFinite) {
+        sortedByX = xSorted;
+        runs.append(qMakePair(0, size - 1));
+        const double yMin = *std::min_element(blockLow.begin(), blockLow.end());
+        const double yMax = *std::max_element(blockHigh.begin(), blockHigh.end());
+        bounds = QRectF(QPointF(xLow, yMin), QPointF(xHigh, yMax));
+        return;
+    }
+    // Summaries that may hold a value that is not finite are no use.
+    blockLow.clear();
+    blockHigh.clear();
 
     double xMin = std::numeric_limits<double>::infinity();
     double xMax = -xMin;
@@ -69,12 +142,37 @@ size_t KXTraceData::size() const
 
 QPointF KXTraceData::sample(size_t i) const
 {
-    return QPointF(xs.at(static_cast<int>(i)), ys.at(static_cast<int>(i)));
+    return QPointF(xs[i], ys[i]);
 }
 
 QRectF KXTraceData::boundingRect() const
 {
     return bounds;
+}
+
+void KXTraceData::yRange(int first, int last, double &low, double &high) const
+{
+    low = ys[size_t(first)];
+    high = low;
+    const auto scan = [&](int from, int to) {
+        for (int i = from; i <= to; ++i) {
+            const double value = ys[size_t(i)];
+            low = value < low ? value : low;
+            high = value > high ? value : high;
+        }
+    };
+    const int firstBlock = (first + kx_blockSize - 1) / kx_blockSize;
+    const int endBlock = (last + 1) / kx_blockSize;
+    if (blockLow.empty() || endBlock <= firstBlock) {
+        scan(first, last);
+        return;
+    }
+    scan(first, firstBlock * kx_blockSize - 1);
+    for (int b = firstBlock; b < endBlock; ++b) {
+        low = blockLow[size_t(b)] < low ? blockLow[size_t(b)] : low;
+        high = blockHigh[size_t(b)] > high ? blockHigh[size_t(b)] : high;
+    }
+    scan(endBlock * kx_blockSize, last);
 }
 
 namespace {
@@ -104,8 +202,37 @@ int kx_firstAtOrAfter(int from, int end, double column, Column columnOf)
     return from;
 }
 
-// Points of a pixel column taken as they are at its start and at its end.
-const int kx_keptPoints = 4;
+// The same search started from a guess: the columns of an evenly spaced trace hold about as many
+// points as the one before, so the next column usually starts within a step of the guess, in memory
+// the last column already brought in.
+template <typename Column>
+int kx_firstAtOrAfterNear(int from, int end, int guess, double column, Column columnOf)
+{
+    guess = qBound(from, guess, end);
+    int step = 1;
+    if (guess < end && columnOf(guess) < column) {
+        int low = guess + 1;
+        int high = guess + step;
+        while (high < end && columnOf(high) < column) {
+            low = high + 1;
+            step *= 2;
+            high = guess + step;
+        }
+        return kx_firstAtOrAfter(low, qMin(high, end), column, columnOf);
+    }
+    int high = guess;
+    int low = guess - step;
+    while (low > from && columnOf(low) >= column) {
+        high = low;
+        step *= 2;
+        low = guess - step;
+    }
+    return kx_firstAtOrAfter(qMax(low, from), high, column, columnOf);
+}
+
+// Points of a pixel column taken as they are at its start and at its end. The rasterizer's choice
+// at a joint looks back two segments; one more is margin.
+const int kx_keptPoints = 3;
 
 inline void kx_append(QPolygonF &line, const QPointF &point)
 {
@@ -127,6 +254,11 @@ KXTraceCurve::~KXTraceCurve() = default;
 
 void KXTraceCurve::setTrace(const double *x, const double *y, int size)
 {
+    if (auto *points = dynamic_cast<KXTraceData *>(data())) {
+        points->assign(x, y, size);
+        dataChanged();
+        return;
+    }
     setData(new KXTraceData(x, y, size));
 }
 
@@ -185,12 +317,9 @@ void KXTraceCurve::drawLines(QPainter *painter, const QwtScaleMap &xMap, const Q
         }
         // Points k to m lie between them: only their highest and lowest rows matter.
         if (k <= m) {
-            double low = ys[k];
-            double high = ys[k];
-            for (int i = k + 1; i <= m; ++i) {
-                low = std::min(low, ys[i]);
-                high = std::max(high, ys[i]);
-            }
+            double low;
+            double high;
+            points->yRange(k, m, low, high);
             kx_append(line, QPointF(column, rowOf(low)));
             kx_append(line, QPointF(column, rowOf(high)));
         }
@@ -219,10 +348,11 @@ void KXTraceCurve::drawLines(QPainter *painter, const QwtScaleMap &xMap, const Q
             if (begin > first) {
                 kx_append(line, pointAt(begin - 1));
             }
-            for (int i = begin; i < end;) {
+            for (int i = begin, width = 1; i < end;) {
                 const double column = columnOf(i);
-                const int next = kx_firstAtOrAfter(i + 1, end, column + 1.0, columnOf);
+                const int next = kx_firstAtOrAfterNear(i + 1, end, i + width, column + 1.0, columnOf);
                 appendColumn(line, column, i, next);
+                width = next - i;
                 i = next;
             }
             if (end <= last) {
@@ -296,12 +426,13 @@ void KXTraceCurve::drawDots(QPainter *painter, const QwtScaleMap &xMap, const Qw
         };
         const int begin = kx_firstAtOrAfter(from, to + 1, double(left), columnOf);
         const int end = kx_firstAtOrAfter(begin, to + 1, double(left + width), columnOf);
-        for (int i = begin; i < end;) {
+        for (int i = begin, width = 1; i < end;) {
             const int column = int(columnOf(i));
-            const int next = kx_firstAtOrAfter(i + 1, end, column + 1.0, columnOf);
+            const int next = kx_firstAtOrAfterNear(i + 1, end, i + width, column + 1.0, columnOf);
             for (int k = i; k < next; ++k) {
                 take(column, yMap.transform(ys[k]));
             }
+            width = next - i;
             i = next;
         }
     } else {

@@ -9,6 +9,8 @@
 
 #include <QPair>
 #include <QVector>
+
+#include <vector>
 #include <qwt_plot_curve.h>
 #include <qwt_series_data.h>
 
@@ -18,27 +20,40 @@ class KXTraceData : public QwtSeriesData<QPointF>
 public:
     // Copies size points; null arrays or a negative size give an empty trace.
     KXTraceData(const double *x, const double *y, int size);
+    // Takes another trace in place of this one, in the memory this one had where it suffices: a
+    // trace of a million points arriving 20 times a second should not cost fresh pages every time.
+    void assign(const double *x, const double *y, int size);
 
     size_t size() const override;
     QPointF sample(size_t i) const override;
     // The span of the finite values, for automatic scaling; invalid when there are none.
     QRectF boundingRect() const override;
 
-    const double *xValues() const { return xs.constData(); }
-    const double *yValues() const { return ys.constData(); }
+    const double *xValues() const { return xs.data(); }
+    const double *yValues() const { return ys.data(); }
     // Every x is finite and none is smaller than the one before: a spectrum or a time trace rather
     // than a scatter of I/Q points.
     bool isSortedByX() const { return sortedByX; }
     // First and last index of each stretch of points whose x and y are both finite. A point that
     // is not finite is a gap in the line.
     const QVector<QPair<int, int>> &finiteRuns() const { return runs; }
+    // The smallest and largest y of points first to last; for a long stretch of a finite trace it
+    // reads the summaries of 64-point blocks made when the trace came, not every point.
+    void yRange(int first, int last, double &low, double &high) const;
 
 private:
-    QVector<double> xs;
-    QVector<double> ys;
+    std::vector<double> xs;
+    std::vector<double> ys;
+    std::vector<double> blockLow;
+    std::vector<double> blockHigh;
     QVector<QPair<int, int>> runs;
     QRectF bounds;
-    bool sortedByX;
+    bool sortedByX = true;
+    // What the x values last taken were found to be, kept for a trace with the same ones.
+    bool xFinite = false;
+    bool xSorted = true;
+    double xLow = 0.0;
+    double xHigh = 0.0;
 };
 
 // A curve that draws a trace of any length in about the time a screen width of points takes.

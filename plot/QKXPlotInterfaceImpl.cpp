@@ -103,6 +103,12 @@ QKXPlotInterfaceImpl::QKXPlotInterfaceImpl(QWidget *parent)
 
     setObjectName(QStringLiteral("QKXPlot"));
     setStyleSheet(QLatin1String(kx_canvasStyle));
+    // With a style-sheet background, Qwt refills its backing store from every parent's background
+    // on each replot, which costs twenty times what drawing a million-point trace does. Without
+    // it the canvas draws its items straight onto the widget whenever it is painted.
+    if (auto *area = qobject_cast<QwtPlotCanvas *>(canvas())) {
+        area->setPaintAttribute(QwtPlotCanvas::BackingStore, false);
+    }
     plotLayout()->setAlignCanvasToScales(true);
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Maximum);
 
