@@ -37,6 +37,7 @@
 #include <QStringList>
 #include <qwt_plot_curve.h>
 
+#include <climits>
 #include <cmath>
 #include <limits>
 #include <cstdint>
@@ -277,14 +278,16 @@ QByteArray writeInput(const Input &input)
 QVariant otherValue(const QVariant &value, QRandomGenerator &random)
 {
     const double number = value.toDouble();
+    const qint64 whole = value.toInt();   // widened: one more than the largest int is a count to try
+    const auto count = [](qint64 n) { return QVariant(int(qBound<qint64>(INT_MIN, n, INT_MAX))); };
     switch (random.bounded(12)) {
-    case 0: return value.toInt() + 1;
-    case 1: return value.toInt() - 1;
-    case 2: return -value.toInt();
+    case 0: return count(whole + 1);
+    case 1: return count(whole - 1);
+    case 2: return count(-whole);
     case 3: return std::nan("");
     case 4: return random.bounded(2) ? HUGE_VAL : -HUGE_VAL;
     case 5: return number * 1e300;
-    case 6: return QString::number(value.toInt() + random.bounded(3) - 1);
+    case 6: return QString::number(whole + random.bounded(3) - 1);
     case 7: return QStringLiteral("x");
     case 8: return QVariant();
     case 9: return random.bounded(2) == 1;
