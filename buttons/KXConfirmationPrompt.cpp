@@ -80,7 +80,8 @@ bool KXConfirmationPrompt::displayPrompt(const QObject *filter, QWidget *widget)
     const QString keys = answerKeys(buttonStyle);
     if (keys.isEmpty()) {
         kx_report(filter, "displayPrompt",
-                  QStringLiteral("ButtonStyle %1 offers no answer; only closing the prompt ends it.").arg(buttonStyle));
+                  QStringLiteral("ButtonStyle %1 offers no answer; only closing the window ends the prompt.")
+                      .arg(buttonStyle));
     }
     return displayDialog(filter, title, text, keys) == 1;
 }
@@ -126,8 +127,8 @@ int KXConfirmationPrompt::displayDialog(const QObject *filter, const QString &ti
     grid->addWidget(label, 0, 0, 1, qMax(1, int(count)));
 
     dialog->setLayout(grid, true);
-    // A prompt without answers would otherwise only end when the whole window closes.
-    dialog->setWindowTitle(kx_translated(title), count > 0 ? ContainerBase::NoTitleButtons : ContainerBase::CloseButton);
+    // No title bar keys, not even for a prompt without answers: that one ends when the window closes.
+    dialog->setWindowTitle(kx_translated(title), ContainerBase::NoTitleButtons);
 
     const int code = dialog->exec(true);
     delete dialog.data();

@@ -25,15 +25,20 @@ struct KXPromptSettings
 namespace KXConfirmationPrompt {
 
 // The answer keys of a ButtonStyle as "Label,code|Label,code"; code 1 confirms. Empty for a style
-// that offers none.
+// that offers none: displayPrompt() reports it, since such a prompt only ends with its window.
 QString answerKeys(int buttonStyle);
 
 // Shows the widget's prompt, reading its texts and ButtonStyle by name. True when the answer confirms.
+// A widget without buttonStyle() is reported and asked No/Yes, as a new button would ask.
 bool displayPrompt(const QObject *filter, QWidget *widget);
 
 // Runs the host's modal prompt over the main window and returns the chosen answer's code (another
 // value when the prompt is cancelled). The filter's ancestors are searched for the top container,
-// whose closing cancels the prompt.
+// whose closing cancels the prompt. Question and title are translated in the "KXConfirmationPrompt"
+// context (the host's dialog translates the answer keys). Without a main window, or a top container
+// with WindowClosed(), the prompt still opens (as a window of its own) and the gap is reported.
+// The prompt runs an event loop: a filter whose button went meanwhile swallows the release and
+// touches nothing more.
 int displayDialog(const QObject *filter, const QString &title, const QString &text, const QString &keys);
 
 // A release that counts as a tap: inside what received it, after a press that did not drag, on an

@@ -59,10 +59,12 @@ void QKXBrowseButtonEventFilter::lockAcquired(QWidget *widget)
 
 void QKXBrowseButtonEventFilter::fileSelected(QString filename)
 {
-    disconnectBrowser();
     if (!filename.isEmpty()) {
         emit submit(filename);
     }
+    // Afterwards, whatever happened meanwhile: a host that answers the submit with another granted
+    // tap of this button loses that listening again here.
+    disconnectBrowser();
 }
 
 void QKXBrowseButtonEventFilter::cancel()

@@ -7,7 +7,9 @@ class QKXBrowseButtonEventFilterPrivate;
 
 // Edit filter of a browse button: once the host grants the lock, the filter takes over the host's
 // "SimpleFileBrowser" screen (from whichever button had it) and hands the lock straight back; the
-// next file chosen there is submitted. Showing the browser is the host's business.
+// next file chosen there is submitted. Showing the browser is the host's business. Taking over cuts
+// every receiver of the browser's two signals, so the browser screen must not rely on its own
+// connections to them. Without such a screen the tap is reported and the lock handed back.
 class STANDALONEPLUGINS_EXPORT QKXBrowseButtonEventFilter : public QKXEventFilterBase
 {
     Q_OBJECT

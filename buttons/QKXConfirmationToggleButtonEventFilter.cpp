@@ -10,14 +10,25 @@
 
 namespace {
 
-// Whether switching away from the given state needs the user's word; an unknown state always does.
-bool kx_guarded(int promptStyle, const QVariant &state)
+enum class TapAnswer { AskForLock, Prompt, Nothing };
+
+// What a tap does for the widget's PromptStyle and state. PromptStyle 1 guards switching on, 2
+// switching off and 3 both ways; the direction a style does not guard switches at once, as
+// PromptStyle 0 always does. Any other PromptStyle has no prompt to show, and the tap does nothing.
+// A widget whose state cannot be read is always asked.
+TapAnswer kx_tapAnswer(int promptStyle, const QVariant &state)
 {
-    if (promptStyle < 0 || promptStyle >= 3 || !state.isValid()) {
-        return true;
+    if (promptStyle < 0 || promptStyle > 3) {
+        return TapAnswer::Nothing;
+    }
+    if (promptStyle == 0) {
+        return TapAnswer::AskForLock;
+    }
+    if (promptStyle == 3 || !state.isValid()) {
+        return TapAnswer::Prompt;
     }
     const bool on = state.toBool();
-    return (promptStyle == 1 && !on) || (promptStyle == 2 && on);
+    return (promptStyle == 1 && !on) || (promptStyle == 2 && on) ? TapAnswer::Prompt : TapAnswer::AskForLock;
 }
 
 } // namespace
@@ -72,14 +83,15 @@ bool QKXConfirmationToggleButtonEventFilter::mouseReleaseEventFilter(QObject *wa
     }
 
     const int promptStyle = KXConfirmationPrompt::promptStyle(this, widget);
-    if (promptStyle > 3) {
+    const TapAnswer answer = kx_tapAnswer(promptStyle, widget->property("State"));
+    if (answer == TapAnswer::Nothing) {
         qDebug().noquote() << QStringLiteral("UserInterface - QKXConfirmationToggleButtonEventFilter::"
                                              "mouseReleaseEventFilter : PromptStyle %1 is none of 0 to 3; "
-                                             "confirming both ways.")
+                                             "the tap does nothing.")
                                   .arg(promptStyle);
+        return QObject::eventFilter(watched, event);
     }
-    const QVariant state = widget->property("State");
-    if (promptStyle == 0 || !kx_guarded(promptStyle, state)) {
+    if (answer == TapAnswer::AskForLock) {
         attempLockSendLockSignal(widget, true);
         return QObject::eventFilter(watched, event);
     }
@@ -91,7 +103,7 @@ bool QKXConfirmationToggleButtonEventFilter::mouseReleaseEventFilter(QObject *wa
     if (!self || !receiver) {
         return true;
     }
-    if (promptStyle > 0 && confirmed) {
+    if (confirmed) {
         attempLockSendLockSignal(widget, true);
     }
     return QObject::eventFilter(watched, event);

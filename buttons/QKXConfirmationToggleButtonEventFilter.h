@@ -5,7 +5,10 @@
 
 // Edit filter of a confirmation toggle: a tap in a direction that PromptStyle guards shows the
 // button's prompt first, and only a confirming answer asks for the edit lock; the switch then goes
-// out as from a plain toggle (loading look, opposite state submitted).
+// out as from a plain toggle (loading look, opposite state submitted). PromptStyle 1 guards switching
+// on, 2 switching off, 3 both ways; the direction a style leaves unguarded asks for the lock at once,
+// as the push twin does after a prompt, so that every style can switch both ways. A widget whose
+// "State" cannot be read is always asked.
 class STANDALONEPLUGINS_EXPORT QKXConfirmationToggleButtonEventFilter : public QKXEventFilterBase
 {
     Q_OBJECT

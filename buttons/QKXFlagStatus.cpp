@@ -1,12 +1,9 @@
 #include "QKXFlagStatus.h"
 #include "QKXWidgetBase_p.h"
 
-#include <QColor>
-#include <QDebug>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QRegularExpression>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -34,15 +31,6 @@ const char *const LedTemplate =
 QString kx_ledStyle(const QString &fill)
 {
     return QString::fromLatin1(LedTemplate).arg(fill);
-}
-
-// Colours as style sheets take them: a name or "#rgb" form that QColor knows, or a functional
-// rgb()/rgba()/hsv()/hsva()/hsl()/hsla() form. Anything else could break out of the rule.
-bool kx_isStyleColor(const QString &text)
-{
-    static const QRegularExpression functional(
-        QStringLiteral("^(rgb|rgba|hsv|hsva|hsl|hsla)\\(\\s*[0-9.%]+(\\s*,\\s*[0-9.%]+){2,3}\\s*\\)$"));
-    return QColor::isValidColor(text) || functional.match(text.trimmed()).hasMatch();
 }
 
 } // namespace
@@ -114,8 +102,7 @@ void QKXFlagStatusPrivate::init()
     layout->addWidget(base);
     q->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
 
-    // A child of the widget rather than of this object, so that it lives in the widget's tree.
-    blinkTimer = new QTimer(q);
+    blinkTimer = new QTimer(this);
     blinkTimer->setObjectName(QStringLiteral("BlinkTimer"));
     connect(blinkTimer, &QTimer::timeout, this, &QKXFlagStatusPrivate::toggleLed);
 
@@ -141,12 +128,9 @@ void QKXFlagStatusPrivate::setLedOn(bool on)
         base->setStyleSheet(offStyle);
         return;
     }
+    // A set flag published again lights the lamp and starts its second afresh. The blink phase
+    // carries on from where it was: a new blink stays lit through its first tick.
     if (blinkMode) {
-        value = true;
-        // An engine that publishes the set flag again and again must not hold the blink in step.
-        if (blinking) {
-            return;
-        }
         blinkTimer->start(BlinkInterval);
         blinking = true;
     } else {
@@ -154,8 +138,6 @@ void QKXFlagStatusPrivate::setLedOn(bool on)
         blinking = false;
     }
     value = true;
-    // The lamp is lit now, so the next tick darkens it: a blink is one second on, one second off.
-    blinkPhase = true;
     base->setStyleSheet(onStyle);
 }
 
@@ -167,13 +149,8 @@ void QKXFlagStatusPrivate::setBlinkMode(bool enable)
 
 void QKXFlagStatusPrivate::setTrippedLedColor(const QString &color)
 {
-    if (!kx_isStyleColor(color)) {
-        qDebug().noquote() << QStringLiteral("UserInterface - QKXFlagStatus::setTrippedLedColor : \"%1\" is no colour; "
-                                             "keeping %2.")
-                                  .arg(color, trippedLedColor);
-        return;
-    }
-    trippedLedColor = color.trimmed();
+    // Taken as written, in any form a sheet accepts (a name, rgb(), palette(), a gradient).
+    trippedLedColor = color;
     onStyle = kx_ledStyle(trippedLedColor);
 }
 

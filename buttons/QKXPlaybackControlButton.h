@@ -13,7 +13,7 @@ class STANDALONEPLUGINS_EXPORT QKXPlaybackControlButton : public QKXWidgetBase
     Q_PROPERTY(Button_Type ButtonType READ buttonType WRITE setButtonType DESIGNABLE true STORED true)
 
 public:
-    // Over int, so that any number a form or host writes is a value that can be refused.
+    // Over int, so that any number a form or host writes is a value the key can hold.
     enum Button_Type : int { none = 0, play = 1, stop = 2 };
     Q_ENUM(Button_Type)
 
@@ -30,7 +30,7 @@ public:
 public Q_SLOTS:
     virtual void setButtonName(QString bName);
     void setLocked(bool isL) override;
-    // A value outside the enumeration is reported and ignored: the key keeps its symbol.
+    // A value outside the enumeration is kept, reported, and leaves the key without a look.
     virtual void setButtonType(QKXPlaybackControlButton::Button_Type bType);
 
 Q_SIGNALS:

@@ -19,9 +19,12 @@ public:
     Q_INVOKABLE int value() const;
 
 public Q_SLOTS:
+    // The range is 0 to 100 and nothing changes it. A value whose percentage falls outside is stored
+    // and reported; the bar keeps what it shows.
     void setValue(int value);
     // For engines that publish progress as a floating-point number: the value is taken toward zero;
-    // NaN, the infinities and values beyond int are refused and the bar keeps what it shows.
+    // NaN, the infinities and values beyond int are refused and the bar keeps what it shows. (A double
+    // written to the int Value property is converted by Qt first, NaN to 0, so such engines call this.)
     void setValue(double value);
 
 private:

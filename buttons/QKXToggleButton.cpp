@@ -121,8 +121,9 @@ QString QKXToggleButtonPrivate::onText() const
 void QKXToggleButtonPrivate::setOnText(const QString &text)
 {
     onTextValue = text;
+    // Only the text changes: the label keeps its object name, and with it the look in force.
     if (active) {
-        setButtonState(onTextValue);
+        stateLabel->setText(tr(onTextValue.toUtf8().constData()));
     }
 }
 
@@ -135,7 +136,7 @@ void QKXToggleButtonPrivate::setOffText(const QString &text)
 {
     offTextValue = text;
     if (!active) {
-        setButtonState(offTextValue);
+        stateLabel->setText(tr(offTextValue.toUtf8().constData()));
     }
 }
 
@@ -156,12 +157,11 @@ bool QKXToggleButtonPrivate::activeState() const
 
 QString QKXToggleButtonPrivate::caption() const
 {
-    return captionText;
+    return button->text();
 }
 
 void QKXToggleButtonPrivate::setCaption(const QString &text)
 {
-    captionText = text;
     button->setText(tr(text.toUtf8().constData()));
 }
 
@@ -283,9 +283,8 @@ void QKXToggleButton::installEventFilter(QObject *filter)
 
 void QKXToggleButton::retranslate()
 {
-    Q_D(QKXToggleButton);
-    d->setCaption(d->caption());
-    // Re-applying the state translates its text again; toggled() repeats the unchanged state.
+    // Re-applying the state translates its text again; toggled() repeats the unchanged state. The
+    // caption is only kept as shown, so it stays in the language it was written in.
     setActiveState(activeState());
 }
 

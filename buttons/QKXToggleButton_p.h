@@ -21,6 +21,7 @@ public:
     ~QKXToggleButtonPrivate() override;
 
     void init() override;
+    // Also sets the base's flag, so that the Locked property reads back what the host wrote.
     void setLocked(bool locked) override;
     void setEventFilter(QObject *filter) override;
     void updateStyle() override;
@@ -32,7 +33,8 @@ public:
     virtual QString loadingText() const;
     virtual void setLoadingText(const QString &text);
     virtual bool activeState() const;
-    // The inner button's caption (the base's label() is the family caption label, which a toggle has not).
+    // The inner button's caption as shown, translated (the base's label() is the family caption
+    // label, which a toggle has not).
     virtual QString caption() const;
     virtual void setCaption(const QString &text);
     virtual void setActiveState(bool state);
@@ -50,8 +52,6 @@ public:
     QPushButton *button;
     QString style;
     bool lockedState;
-    // The caption as written, untranslated: read back as written and translated again on a language change.
-    QString captionText;
 
 private:
     // A new object name takes effect in the sheet only once the label is polished again.

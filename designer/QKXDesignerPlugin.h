@@ -48,6 +48,8 @@ private:
         QWidget *createWidget(QWidget *parent) override;                                   \
     };
 
+// The classes made from a row share the base's meta-object, so each plug-in object carries its own
+// class name as its object name.
 #define KX_DEFINE_DESIGNER_PLUGIN(PluginClass, WidgetClass, WhatsThis, DomName)             \
     PluginClass::PluginClass(QObject *parent)                                              \
         : QKXDesignerPlugin(QStringLiteral(#WidgetClass), QStringLiteral(WhatsThis),         \

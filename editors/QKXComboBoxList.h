@@ -4,6 +4,7 @@
 #include "QKXComboPopup.h"
 
 #include <QMap>
+#include <QVariant>
 
 class QKXComboListFrame;
 class QVBoxLayout;

@@ -1,6 +1,8 @@
 #include "QKXComboPopup.h"
 
-#include "GlobalImpl.h"
+#include "QKXPopupChain.h"
+#include "QKXPopupPlacement.h"
+
 #include "QKXComboBox.h"
 #include "QKXComboListItem.h"
 
@@ -22,7 +24,7 @@ QKXComboPopup::QKXComboPopup(QWidget *parent)
         setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
         setAttribute(Qt::WA_TranslucentBackground);
     }
-    coverScreen();
+    QKXPopupPlacement::coverArea(this);
     // Opens only when a widget is registered, not with the screen it belongs to.
     hide();
 }
@@ -63,18 +65,6 @@ int QKXComboPopup::idOf(QAbstractButton *item) const
     return idByItem.value(item, -1);
 }
 
-void QKXComboPopup::coverScreen()
-{
-    if (!isWindow() && parentWidget()) {
-        setGeometry(parentWidget()->rect());
-        return;
-    }
-    if (QWidget *desktop = GlobalImpl::getInstance()->desktop()) {
-        setGeometry(desktop->isWindow() ? desktop->geometry()
-                                        : QRect(desktop->mapToGlobal(QPoint(0, 0)), desktop->size()));
-    }
-}
-
 void QKXComboPopup::registerWidget(QObject *filter, QWidget *widget)
 {
     // One edit at a time: a popup still open for another widget lets go of it first.
@@ -94,7 +84,7 @@ void QKXComboPopup::registerWidget(QObject *filter, QWidget *widget)
     }
     chain(filter);
     fillColumn(combo->metaData());
-    coverScreen();
+    QKXPopupPlacement::coverArea(this);
     show();
     raise();
     registeredWidget = widget;
@@ -105,13 +95,9 @@ void QKXComboPopup::registerWidget(QObject *filter, QWidget *widget)
 void QKXComboPopup::chain(QObject *filter)
 {
     registeredFilter = filter;
-    if (!filter) {
-        return;
-    }
-    // Filters and popups address each other by name: any filter with these members can drive a popup.
-    connect(this, SIGNAL(cancelEntry()), filter, SLOT(cancel()));
-    connect(filter, SIGNAL(editEnd()), this, SLOT(unregister()));
-    connect(this, SIGNAL(submit(int)), filter, SIGNAL(submit(int)));
+    // No closing signal: the list closes through the filter's editEnd().
+    QKXPopupChain::chain(this, filter, SIGNAL(cancelEntry()), nullptr);
+    QKXPopupChain::forward(this, filter, SIGNAL(submit(int)));
 }
 
 void QKXComboPopup::hideThis()
@@ -121,11 +107,7 @@ void QKXComboPopup::hideThis()
 
 void QKXComboPopup::unregister()
 {
-    if (QObject *f = registeredFilter) {
-        disconnect(f, SIGNAL(editEnd()), this, SLOT(unregister()));
-        disconnect(this, SIGNAL(submit(int)), f, SIGNAL(submit(int)));
-        disconnect(this, nullptr, f, nullptr);
-    }
+    QKXPopupChain::unchain(this, registeredFilter);
     registeredFilter = nullptr;
     hide();
 }

@@ -36,7 +36,9 @@ public:
 
 public Q_SLOTS:
     // Fills the column from the widget's enumeration record, opens over the screen and places the
-    // column beside the widget, its current item level with the widget's field.
+    // column beside the widget, its current item level with the widget's field. A widget this popup
+    // cannot edit leaves it closed, with a debug line, and the filter's edit is cancelled, which hands
+    // the lock back.
     virtual void registerWidget(QObject *filter, QWidget *widget);
     virtual void hideThis();
     // Unchains the filter and closes. Called by the filter's editEnd().
@@ -69,7 +71,6 @@ protected:
 private:
     Q_DISABLE_COPY(QKXComboPopup)
     void chain(QObject *filter);
-    void coverScreen();
     void releaseItems();
     QKXComboListItem *takeItem(int id);
 

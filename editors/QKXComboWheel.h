@@ -9,6 +9,8 @@ class QVBoxLayout;
 // The wheel popup of the wheel enum: the literals on a wheel beside the widget, exactly as the record
 // spells them, the current value on the band. A tap on an item submits its value; a tap beside the
 // wheel cancels.
+// A value listed more than once is one item, placed where its last entry is, with that entry's
+// literal; the list popup keeps one row per entry instead.
 class STANDALONEPLUGINS_EXPORT QKXComboWheel : public QKXComboPopup
 {
     Q_OBJECT

@@ -1,6 +1,7 @@
 #include "QKXKeyPadBase.h"
 #include "QKXKeyPadBase_p.h"
 
+#include "QKXPopupChain.h"
 #include "QKXPopupPlacement.h"
 
 #include "CSS.h"
@@ -299,7 +300,6 @@ void QKXKeyPadBase::retranslate()
         {"cancel", &d->cancelText},
         {"clear", &d->clearText},
         {"enter", &d->enterText},
-        {"hexEnter", &d->enterText},
     };
     for (const auto &caption : captions) {
         if (QPushButton *button = d->buttons.value(QLatin1String(caption.key))) {
@@ -326,12 +326,9 @@ void QKXKeyPadBase::buttonSubmit()
 void QKXKeyPadBase::resetWidgets()
 {
     Q_D(QKXKeyPadBase);
-    if (d->filter) {
-        // Only the pad's own chaining goes: the host's editStart -> registerWidget connection, also
-        // one from the filter to the pad, has to survive for the next edit.
-        disconnect(d->filter, SIGNAL(editEnd()), this, SLOT(unregister()));
-        disconnect(this, nullptr, d->filter, nullptr);
-    }
+    // Every connection between the two goes, whoever made it: a host hands edits to the pad through
+    // a receiver of its own, not by connecting a filter's editStart() to registerWidget().
+    QKXPopupChain::unchainAll(this, d->filter);
     for (QPushButton *button : qAsConst(d->buttons)) {
         button->setFocusProxy(nullptr);
     }

@@ -22,6 +22,8 @@ class STANDALONEPLUGINS_EXPORT QKXKeyPadBase : public ContainerImpl, public QKXE
     Q_PROPERTY(bool IsLive READ isLive WRITE setLive DESIGNABLE true SCRIPTABLE true STORED true)
 
 public:
+    // Keys share their outlines: each draws its top and right border, the left column and the bottom
+    // row add the outer ones, and only the named outer corners are rounded.
     explicit QKXKeyPadBase(QWidget *parent = nullptr);
     ~QKXKeyPadBase() override;
 
@@ -48,6 +50,7 @@ public:
     void updateStyle() override;
 
 public Q_SLOTS:
+    // Public, so that a host can close the pad itself.
     virtual void unregister();
 
 Q_SIGNALS:
@@ -75,6 +78,7 @@ protected:
     // A key: caption, object name, Minimum size policy both ways, no focus, clicked() connected to
     // member (a SLOT() or SIGNAL() of this pad). The caller files it under its key name.
     virtual QPushButton *createButton(const QString &text, const char *member, const QString &name);
+    // Lets go of filter, entry and widget and cuts every connection with the filter, both ways.
     virtual void resetWidgets();
 
     void resizeEvent(QResizeEvent *event) override;

@@ -1,7 +1,8 @@
 #include "QKXNumpad.h"
 #include "QKXKeyPadBase_p.h"
 
-#include "KXNumberText_p.h"
+#include "KXNumberConversion_p.h"
+#include "QKXPopupChain.h"
 #include "QKXRichTextPushButton.h"
 
 #include <QDebug>
@@ -55,16 +56,10 @@ private:
 
 bool QKXNumpadPrivate::entryValue(double *value) const
 {
-    const QString text = entry->text();
-    bool ok = false;
+    // In base 10 an entry is a real number even for an integer attribute (the commit truncates it).
     const int radix = kxnumber::radixOf(base);
-    if (radix == 10) {
-        *value = text.toDouble(&ok);
-        ok = ok && std::isfinite(*value);
-    } else {
-        *value = double(text.toLongLong(&ok, radix));
-    }
-    return ok;
+    const kxnumber::NumberForm form = radix == 10 ? kxnumber::NumberForm::Real : kxnumber::NumberForm::WholeNumber;
+    return kxnumber::readNumber(entry->text(), form, radix, value);
 }
 
 void QKXNumpadPrivate::submitWithUnit(QObject *key, double value, bool integral)
@@ -116,6 +111,13 @@ void QKXNumpadPrivate::pressKey(const QString &name, QPushButton *key)
             }
         }
         entry->setText(text);
+        mirror();
+    } else if (name == QLatin1String("dot") && dataType == kx_textType) {
+        // A dotted address has four parts at most.
+        if (entry->text().count(QLatin1Char('.')) > 2) {
+            return;
+        }
+        entry->insert(QStringLiteral("."));
         mirror();
     } else if (name == QLatin1String("dot")) {
         const QString text = entry->text();
@@ -248,18 +250,16 @@ void QKXNumpad::registerWidget(QObject *filter, QWidget *widget)
     }
     d->mirror();
 
-    connect(this, SIGNAL(cancelEntry()), filter, SLOT(cancel()));
-    connect(this, SIGNAL(done()), filter, SIGNAL(editEnd()));
-    connect(filter, SIGNAL(editEnd()), this, SLOT(unregister()));
+    QKXPopupChain::chain(this, filter, SIGNAL(cancelEntry()), SIGNAL(done()));
     connect(d->entry.data(), &QLineEdit::textEdited, this, &QKXNumpad::setReadingText);
 
     QPushButton *dot = d->buttons.value(QStringLiteral("dot"));
     if (d->dataType == kx_intType) {
         dot->setEnabled(false);
-        connect(this, SIGNAL(submit(int)), filter, SIGNAL(submit(int)));
+        QKXPopupChain::forward(this, filter, SIGNAL(submit(int)));
     } else if (d->dataType == kx_doubleType) {
         dot->setEnabled(widget->property("Precision").toInt() > 0);
-        connect(this, SIGNAL(submit(double)), filter, SIGNAL(submit(double)));
+        QKXPopupChain::forward(this, filter, SIGNAL(submit(double)));
     } else if (d->dataType == kx_valueDoubleType || d->dataType == kx_valueLongType) {
         const bool isLong = d->dataType == kx_valueLongType;
         dot->setEnabled(!isLong && widget->property("Precision").toInt() > 0);
@@ -275,12 +275,16 @@ void QKXNumpad::registerWidget(QObject *filter, QWidget *widget)
             d->enterStack->setCurrentIndex(PageUnits);
         }
         if (isLong) {
-            connect(this, SIGNAL(submit(int,QString)), filter, SIGNAL(submit(int,QString)));
+            QKXPopupChain::forward(this, filter, SIGNAL(submit(int,QString)));
         } else {
-            connect(this, SIGNAL(submit(double,QString)), filter, SIGNAL(submit(double,QString)));
+            QKXPopupChain::forward(this, filter, SIGNAL(submit(double,QString)));
         }
+    } else if (d->dataType == kx_textType) {
+        // A dotted address: digits and dots, no sign.
+        dot->setEnabled(true);
+        d->buttons.value(QStringLiteral("plmin"))->setEnabled(false);
+        connect(this, SIGNAL(submit(QString)), filter, SIGNAL(submit(QString)));
     } else {
-        // The dotted-address form ("TextString") joins here with the text family.
         qDebug() << "UserInterface - QKXNumpad attempting to register unknown data type:" << d->dataType
                  << "Widget:" << widget;
     }
@@ -345,6 +349,8 @@ void QKXNumpad::buttonSubmit()
         } else {
             emit submit(value);
         }
+    } else if (d->dataType == kx_textType) {
+        emit submit(d->entry->text());
     }
     emit done();
 }
@@ -386,7 +392,8 @@ void QKXNumpad::updateUnitButtons(QStringList names, QStringList unitStrings, QL
         } else {
             qDebug().noquote() << "UserInterface - Unit Button type should be QKXRichTextPushButton.";
         }
-        key->setObjectName(i == shown - 1 ? QStringLiteral("lastUnit") : QStringLiteral("unit"));
+        // The last unit of the list; with more units than keys, none of the keys is.
+        key->setObjectName(i == names.size() - 1 ? QStringLiteral("lastUnit") : QStringLiteral("unit"));
     }
     // Object names select the keys' looks: the sheet is applied again for the new names to count.
     setStyleSheet(styleSheet());

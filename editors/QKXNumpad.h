@@ -22,6 +22,7 @@ public:
     QPushButton *unitButton(int index) const;
 
 public Q_SLOTS:
+    // A null filter, or a widget without a line edit, leaves the pad hidden and unconnected.
     void registerWidget(QObject *filter, QWidget *widget) override;
     void unregister() override;
     // Cancels the registered edit directly on a numeric filter; other filters are left alone.
@@ -29,12 +30,17 @@ public Q_SLOTS:
 
 protected Q_SLOTS:
     void buttonPress() override;
+    // Commits on every Enter. Text that does not read in the pad's base (a lone "-", "nan", a point
+    // in hex) commits 0, and an "Int" beyond the int range its saturated value, each with a debug
+    // line. Enter on a field with units commits with the neutral units string and leaves the field's
+    // unit alone; only unit keys write "UnitIndex".
     void buttonSubmit() override;
     virtual void setBase(int base);
     virtual void initDecEntry();
     virtual void initHexEntry();
     virtual void initOctEntry();
     virtual void initBinEntry();
+    // Also keeps the container's normal size in step, so that the 318-pixel hex pad opens 318 wide.
     virtual void resizeNumpad(int w, int h, bool isHex = false);
     virtual void setReadingText(const QString &txt);
 
@@ -44,7 +50,8 @@ protected:
     virtual void createUnitButtons();
     // One key per unit, at most four: caption, "UnitString" and "UnitIndex" of each; the rest hidden.
     virtual void updateUnitButtons(QStringList names, QStringList unitStrings, QList<int> indexes);
-    // The widget's "UnitList" as key captions, units strings and indexes, in list order.
+    // The widget's "UnitList" as key captions, units strings and indexes, in list order. An entry with
+    // fewer than four elements gets no key, with a debug line.
     virtual void processUnitData(QWidget *widget, QStringList &names, QStringList &unitStrings, QList<int> &indexes);
 
 private:

@@ -216,6 +216,19 @@ void QKXComboBoxPrivate::retranslate()
     comboText->setText(shown);
 }
 
+QSize QKXComboBoxPrivate::sizeHint(QSize layoutHint) const
+{
+    if (!comboText) {
+        return layoutHint;
+    }
+    // Frame and font come from the style sheet, which reaches the field when it is polished.
+    comboText->ensurePolished();
+    const QMargins frame = comboText->contentsMargins();
+    const int field = frame.left() + frame.right() + 10 * comboText->fontMetrics().averageCharWidth();
+    layoutHint.setWidth(qMax(layoutHint.width(), field));
+    return layoutHint;
+}
+
 void QKXComboBoxPrivate::emitCurrentIndexChanged()
 {
     Q_Q(QKXComboBox);
@@ -256,6 +269,12 @@ void QKXComboBox::removeCSS()
 {
     Q_D(QKXComboBox);
     d->removeCSS();
+}
+
+QSize QKXComboBox::sizeHint() const
+{
+    Q_D(const QKXComboBox);
+    return d->sizeHint(QKXWidgetBase::sizeHint());
 }
 
 void QKXComboBox::setMetaData(const QVariant &data)

@@ -3,6 +3,7 @@
 
 #include "QKXWidgetBase.h"
 
+#include <QSize>
 #include <QVariant>
 
 class QKXComboBoxPrivate;
@@ -27,6 +28,11 @@ public:
     Q_INVOKABLE virtual QString text() const;
     // Drops the widget's own look so that it shows the plain platform style.
     virtual void removeCSS();
+
+    // Never narrower than the field's frame and ten average characters of the field's font: a field
+    // without a literal (a widget just placed on a form, a record not yet given) would otherwise be
+    // as narrow as its rounded border, 21 pixels. Ten characters hold most literals ("Continuous").
+    QSize sizeHint() const override;
 
 public Q_SLOTS:
     virtual void setMetaData(const QVariant &data);

@@ -33,6 +33,7 @@ public:
     virtual void setIndex(const int &value);
     virtual void setMetaData(const QVariant &record);
     virtual void retranslate();
+    QSize sizeHint(QSize layoutHint) const;
 
     static QString compactTemplate();
     static QString largeTemplate();

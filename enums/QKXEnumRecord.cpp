@@ -38,12 +38,6 @@ QVector<QKXEnumEntry> QKXEnumRecord::read(const QVariant &record, const char *re
                                           .arg(QLatin1String(reporter))
                                           .arg(entry.value);
             }
-            if (entry.literal.isEmpty()) {
-                qDebug().noquote() << QStringLiteral("UserInterface - %1::setMetaData - entry %2 (value %3) has an empty literal")
-                                          .arg(QLatin1String(reporter))
-                                          .arg(i)
-                                          .arg(entry.value);
-            }
         }
         seen.insert(entry.value);
         entries.append(entry);

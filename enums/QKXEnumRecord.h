@@ -21,9 +21,10 @@ class STANDALONEPLUGINS_EXPORT QKXEnumRecord
 {
 public:
     // The usable entries, in record order. A record that is not a list reads as empty; an entry with
-    // fewer than two elements is left out. With a reporter, those two cases, a value listed more than
-    // once and an empty literal each give one debug line under the reporter's name; the popups read the
-    // record the widget already reported on, and pass none.
+    // fewer than two elements is left out. With a reporter, those two cases and a value listed more
+    // than once each give one debug line under the reporter's name; the popups read the record the
+    // widget already reported on, and pass none. An empty literal is a literal like any other (a plain
+    // number's unit has none).
     static QVector<QKXEnumEntry> read(const QVariant &record, const char *reporter = nullptr);
 
 private:

@@ -43,6 +43,10 @@ public:
 
 public Q_SLOTS:
     virtual void setMetaData(const QVariant &data);
+    // The table starts from the value 0, as the combo box does: the highlight is on 0's row, or on the
+    // first row (recorded as 0's) when 0 is not listed, until the host's first setIndex. A value
+    // without a row keeps the highlight where it was and, once the application is initialized, says
+    // so on the debug stream.
     virtual void setIndex(int val);
 
 Q_SIGNALS:

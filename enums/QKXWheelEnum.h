@@ -6,7 +6,9 @@
 class QKXWheelEnumPrivate;
 
 // The enumerated widget edited on the wheel popup. Unlike the combo box it shows each literal exactly
-// as the record holds it, and a value the record lacks leaves the field empty.
+// as the record holds it (as plain text: markup shows its tags), and a value the record lacks leaves
+// the field empty. It starts from the value 0, as the combo box does, so a record that lists 0 shows
+// its literal before the host's first setIndex.
 class STANDALONEPLUGINS_EXPORT QKXWheelEnum : public QKXComboBox
 {
     Q_OBJECT

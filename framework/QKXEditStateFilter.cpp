@@ -2,6 +2,7 @@
 #include "QKXEditStateFilter_p.h"
 
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QState>
 #include <QStateMachine>
 #include <QThread>
@@ -156,5 +157,53 @@ void QKXEditStateFilter::rememberValue()
 }
 
 void QKXEditStateFilter::restoreValue()
+{
+}
+
+bool QKXEditStateFilter::readStartValue(StartValueType type, double *value) const
+{
+    *value = 0.0;
+    if (QObject *source = adapter()) {
+        if (type == IntegerStartValue) {
+            int read = 0;
+            if (!QMetaObject::invokeMethod(source, "get", Q_RETURN_ARG(int, read))) {
+                return false;
+            }
+            *value = read;
+        } else if (type == DoubleStartValue) {
+            double read = 0.0;
+            if (!QMetaObject::invokeMethod(source, "get", Q_RETURN_ARG(double, read))) {
+                return false;
+            }
+            *value = read;
+        }
+        return true;
+    }
+    if (QObject *widget = parent()) {
+        double read = 0.0;
+        if (!QMetaObject::invokeMethod(widget, "value", Q_RETURN_ARG(double, read))) {
+            return false;
+        }
+        *value = read;
+    }
+    return true;
+}
+
+void QKXEditStateFilter::handleEntryKeys(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        commitTypedText();
+        break;
+    case Qt::Key_Escape:
+        cancel();
+        break;
+    default:
+        break;
+    }
+}
+
+void QKXEditStateFilter::commitTypedText()
 {
 }

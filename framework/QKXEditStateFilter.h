@@ -55,6 +55,21 @@ protected:
     // Called by cancel() before editEnd(): put the remembered value back. The base does nothing.
     virtual void restoreValue();
 
+    // How the value an edit starts from is read for a cancel to put back.
+    enum StartValueType {
+        IntegerStartValue,   // the adapter's get() returning int
+        DoubleStartValue,    // the adapter's get() returning double
+        NoStartValue         // the adapter has no value of the filter's type
+    };
+    // With an adapter, its get() as the type says; without one, the widget's value(). False when a
+    // value was due but could not be read; *value is 0 then.
+    bool readStartValue(StartValueType type, double *value) const;
+
+    // For filters whose field is typed into: Return and Enter call commitTypedText(), Escape cancels.
+    void handleEntryKeys(QKeyEvent *event);
+    // Commits what was typed into the field; the base does nothing.
+    virtual void commitTypedText();
+
 private:
     Q_DISABLE_COPY(QKXEditStateFilter)
     Q_DECLARE_PRIVATE(QKXEditStateFilter)

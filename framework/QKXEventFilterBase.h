@@ -47,7 +47,11 @@ protected:
     virtual bool keyEventFilter(QObject *watched, QKeyEvent *event);
     virtual bool mousePressEventFilter(QObject *watched, QMouseEvent *event);
     virtual bool mouseMoveEventFilter(QObject *watched, QMouseEvent *event);
+    // A release is inside when it falls in the rectangle of the object that received it: the widget,
+    // or its input control, which fills the widget.
     virtual bool mouseReleaseEventFilter(QObject *watched, QMouseEvent *event);
+    // The filter also watches the widget's input control, which is hidden with the widget; only the
+    // widget's own Hide ends the edit, so that editEnd() comes once.
     virtual bool hideEventFilter(QObject *watched, QEvent *event);
     virtual void attempLockSendLockSignal(QWidget *widget, bool locked);
 

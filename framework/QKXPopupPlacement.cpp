@@ -1,5 +1,7 @@
 #include "QKXPopupPlacement.h"
 
+#include "GlobalImpl.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
@@ -106,8 +108,18 @@ QPoint QKXPopupPlacement::besideWidget(const QWidget *popup, const QWidget *widg
             y = areaBottom - h;
         }
     }
-    // Only a popup larger than its area gets here: its keys start at the top-left, so those stay visible.
-    x = qMax(x, bounds.x());
-    y = qMax(y, bounds.y());
+    // A pad larger than its area hangs off its top and left edges: its place is the rule's, not clamped.
     return QPoint(x, y);
+}
+
+void QKXPopupPlacement::coverArea(QWidget *popup)
+{
+    if (!popup->isWindow() && popup->parentWidget()) {
+        popup->setGeometry(popup->parentWidget()->rect());
+        return;
+    }
+    if (QWidget *desktop = GlobalImpl::getInstance()->desktop()) {
+        popup->setGeometry(desktop->isWindow() ? desktop->geometry()
+                                               : QRect(desktop->mapToGlobal(QPoint(0, 0)), desktop->size()));
+    }
 }

@@ -42,8 +42,12 @@ public:
     // popup's move() takes (its parent's; the screen's for a popup without parent): 5 pixels right of
     // and below the widget's bottom-right corner, pushed up to stay inside the area, flipped to the
     // widget's left when it would leave the area on the right, and into the area's bottom-right corner
-    // when neither side has room. A popup larger than the area keeps its top-left corner inside it.
+    // when neither side has room. A popup larger than the area overhangs its top and left edges.
     static QPoint besideWidget(const QWidget *popup, const QWidget *widget, const QSize &popupSize);
+
+    // Lays a full-screen popup (a list that closes on taps beside its column) over the whole area it
+    // may use: its parent's rectangle, or the host's desktop for a popup that is a window of its own.
+    static void coverArea(QWidget *popup);
 
 private:
     QKXPopupPlacement() = delete;

@@ -49,12 +49,19 @@ public Q_SLOTS:
     virtual void changeSize(const QString &size);
     virtual QObject *getEventFilter() const;
     virtual void setEventFilter(QObject *filter);
+    // The switch's line names the window in double quotes and ends without a blank, so that log
+    // readers can match it whole.
     virtual void supressClicked(QMouseEvent *event);
     virtual QLabel *label();
     virtual void setLabel(QLabel *label);
     virtual void updateStyle();
 
 public:
+    // The Private of any widget of the library, for the families that reach into a child widget's
+    // state (a numeric field clearing the caption of its unit selector).
+    static QKXWidgetBasePrivate *get(QKXWidgetBase *widget) { return widget->d_func(); }
+    static const QKXWidgetBasePrivate *get(const QKXWidgetBase *widget) { return widget->d_func(); }
+
     // The overlay rule shared by the families with a compact and a large look: each entry is the
     // family's template, then its locked overlay when locked, then its read-only overlay when read-only.
     void setOverlaidStyles(const QString &minTemplate, const QString &maxTemplate,

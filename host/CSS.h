@@ -15,7 +15,8 @@ public:
     static QString gradientLight();   // top stop of button and bar gradients
     static QString gradientMiddle();  // middle stop
     static QString gradientDark();    // bottom stop, also the pressed look
-    static QString accentRGBA();      // translucent background of popup columns
+    // Background of popup columns: nearly opaque, so that a column stays readable over a table.
+    static QString accentRGBA();
 
 private:
     CSS() = delete;

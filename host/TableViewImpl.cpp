@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QStyle>
 
 namespace Norvane {
 namespace gui {
@@ -21,7 +22,9 @@ struct TableViewImpl::Data
     int pressScroll = 0;
 };
 
-static QString kxtable_styleSheet()
+// Text margin: how far the item views draw a cell's text from its left edge. Indent: the extra
+// distance of the first column's text, which the instrument's tables indent by three spaces.
+static QString kxtable_styleSheet(int textMargin, int firstIndent)
 {
     return QStringLiteral(R"(QTableView {
     background-color: transparent;
@@ -49,7 +52,10 @@ QHeaderView::section {
     border: none;
     border-bottom: 2px solid %2;
     font-size: 16px;
-    padding: 4px 4px 4px 12px;
+    padding: 4px 4px 4px %3px;
+}
+QHeaderView::section:first {
+    padding-left: %4px;
 }
 QScrollBar:vertical {
     background: transparent;
@@ -71,14 +77,23 @@ QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical {
     background: none;
 }
 )")
-        .arg(CSS::gradientMiddle(), CSS::border());
+        .arg(CSS::gradientMiddle(), CSS::border())
+        .arg(textMargin)
+        .arg(textMargin + firstIndent);
 }
+
+// The cells' font, as the sheet sets it.
+static const int kxtable_CellFontPixels = 18;
 
 TableViewImpl::TableViewImpl(QWidget *parent)
     : QTableView(parent)
     , m(new Data)
 {
-    setStyleSheet(kxtable_styleSheet());
+    // Measured before the sheet is set, on the style that draws the cells' text.
+    const int textMargin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    QFont cellFont = font();
+    cellFont.setPixelSize(kxtable_CellFontPixels);
+    setStyleSheet(kxtable_styleSheet(textMargin, QFontMetrics(cellFont).horizontalAdvance(QStringLiteral("   "))));
     setFrameShape(QFrame::NoFrame);
     setShowGrid(false);
     setWordWrap(false);
@@ -102,6 +117,34 @@ TableViewImpl::~TableViewImpl() = default;
 bool TableViewImpl::isDragging() const
 {
     return m->dragging;
+}
+
+void TableViewImpl::scrollTo(const QModelIndex &index, ScrollHint hint)
+{
+    QTableView::scrollTo(index, hint);
+    // Onto the next whole row: the row asked for moves up, and stays in sight, by less than a row.
+    QScrollBar *bar = verticalScrollBar();
+    const int value = bar->value();
+    if (value % RowHeight != 0) {
+        bar->setValue(qMin(bar->maximum(), (value / RowHeight + 1) * RowHeight));
+    }
+}
+
+void TableViewImpl::updateGeometries()
+{
+    QTableView::updateGeometries();
+    // The last position shows the last row at the bottom; stretched to a whole row, it shows the rows
+    // from a whole one down, with a little space under the last.
+    QScrollBar *bar = verticalScrollBar();
+    const int maximum = bar->maximum();
+    if (maximum % RowHeight == 0) {
+        return;
+    }
+    const bool atEnd = bar->value() == maximum;
+    bar->setMaximum((maximum / RowHeight + 1) * RowHeight);
+    if (atEnd && !m->dragging) {
+        bar->setValue(bar->maximum());
+    }
 }
 
 QItemSelectionModel::SelectionFlags TableViewImpl::selectionCommand(const QModelIndex &index,

@@ -3,9 +3,11 @@
 #include "QKXComboListFrame.h"
 #include "QKXComboListItem.h"
 #include "QKXListDoubleValueObj.h"
+#include "QKXPopupChain.h"
 #include "QKXPopupPlacement.h"
 
 #include "GlobalImpl.h"
+#include "SystemModule.h"
 #include "ValueHelper.h"
 
 #include <QButtonGroup>
@@ -14,7 +16,6 @@
 #include <QMouseEvent>
 #include <QVBoxLayout>
 
-#include <cmath>
 
 QKXDoubleValueList::QKXDoubleValueList(QWidget *parent)
     : QWidget(parent)
@@ -24,7 +25,7 @@ QKXDoubleValueList::QKXDoubleValueList(QWidget *parent)
 {
     setObjectName(QStringLiteral("listFrame"));
     setStyleSheet(QStringLiteral("QFrame#listFrame {\tbackground-color: transparent;}"));
-    coverScreen();
+    QKXPopupPlacement::coverArea(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     // The chosen value leaves before the popup closes.
@@ -73,18 +74,6 @@ QStringList QKXDoubleValueList::unitStrings() const
     return unitStringList;
 }
 
-void QKXDoubleValueList::coverScreen()
-{
-    if (!isWindow() && parentWidget()) {
-        setGeometry(parentWidget()->rect());
-        return;
-    }
-    if (QWidget *desktop = GlobalImpl::getInstance()->desktop()) {
-        setGeometry(desktop->isWindow() ? desktop->geometry()
-                                        : QRect(desktop->mapToGlobal(QPoint(0, 0)), desktop->size()));
-    }
-}
-
 void QKXDoubleValueList::registerWidget(QObject *filter, QWidget *widget)
 {
     if (registeredFilter) {
@@ -92,13 +81,9 @@ void QKXDoubleValueList::registerWidget(QObject *filter, QWidget *widget)
         unregister();
     }
     registeredFilter = filter;
-    if (filter) {
-        // Filters and popups address each other by name.
-        connect(this, SIGNAL(done()), filter, SIGNAL(editEnd()));
-        connect(filter, SIGNAL(editEnd()), this, SLOT(unregister()));
-        connect(this, SIGNAL(submit(double,QString)), filter, SIGNAL(submit(double,QString)));
-        connect(this, SIGNAL(cancel()), filter, SLOT(cancel()));
-    }
+    // No cancel: the list gives a tap beside it no meaning.
+    QKXPopupChain::chain(this, filter, nullptr, SIGNAL(done()));
+    QKXPopupChain::forward(this, filter, SIGNAL(submit(double,QString)));
 
     registered = widget;
     auto *list = qobject_cast<QKXListDoubleValueObj *>(widget);
@@ -106,7 +91,7 @@ void QKXDoubleValueList::registerWidget(QObject *filter, QWidget *widget)
         processMetaDataForList(list->metaData());
     }
 
-    coverScreen();
+    QKXPopupPlacement::coverArea(this);
     show();
     raise();
     frame->setWidget(widget);
@@ -119,17 +104,19 @@ void QKXDoubleValueList::registerWidget(QObject *filter, QWidget *widget)
 void QKXDoubleValueList::placeColumn()
 {
     frame->adjustSize();
-    const QRect anchor = QKXPopupPlacement::rectIn(this, registered);
+    // The widget's corner in the main window's coordinates, which the popup covering that window
+    // shares. Hosts' screens are laid out for the column's place as it is: the widget's own x comes
+    // on top of its corner, 10 pixels back.
+    QWidget *mainWindow = GlobalImpl::getInstance()->systemModule()->getSystemScreen(QStringLiteral("MainWindow"));
+    const QPoint corner = QKXPopupPlacement::rectIn(mainWindow ? mainWindow : this, registered).topLeft();
     const int frameHeight = frame->height();
-    int x = anchor.x() + 1;
-    int y = anchor.y() + anchor.height();
+    const int x = registered->x() + corner.x() - 10;
+    int y = corner.y() + registered->height();
     if (y + frameHeight > height()) {
-        // No room below: the column opens upward, its bottom on the top of the value display.
+        // No room below: the column opens upward, over the value display.
         const QLineEdit *display = registered->findChild<QLineEdit *>();
-        y -= (display ? display->height() : anchor.height()) + frameHeight;
+        y -= (display ? display->height() : registered->height()) + frameHeight;
     }
-    x = QKXPopupPlacement::keepInside(x, frame->width(), width(), QKXPopupPlacement::KeepStart);
-    y = QKXPopupPlacement::keepInside(y, frameHeight, height(), QKXPopupPlacement::KeepStart);
     frame->move(x, y);
     frame->raise();
 }
@@ -144,26 +131,25 @@ void QKXDoubleValueList::processMetaDataForList(QVariant data)
     valueList.clear();
     unitStringList.clear();
 
-    const QString owner = registered ? registered->property("AttributeName").toString() : QString();
+    const QString owner = registered ? registered->objectName() : QString();
     const QVariantList entries = data.toList();
     if (data.isValid() && data.userType() != QMetaType::QVariantList) {
         qDebug().noquote() << "UserInterface - QKXDoubleValueList: values of" << (QLatin1Char('"') + owner + QLatin1Char('"'))
                            << "are not a list - nothing offered";
     }
-    // Ids are positions among the accepted entries, so that an id always names a value held here.
+    // Ids are positions among the entries kept, so that an id always names a value held here. Only
+    // an entry too short to hold a value and a units string is left out; the rest read as numbers and
+    // units strings read (a text that is no number is 0).
     for (int i = 0; i < entries.size(); ++i) {
         const QVariantList entry = entries.at(i).toList();
-        bool isNumber = false;
-        const double value = entry.size() == 2 ? entry.at(0).toDouble(&isNumber) : 0.0;
-        const QString unit = entry.size() == 2 ? entry.at(1).toString() : QString();
-        if (!isNumber || !std::isfinite(value) || !ValueHelper::isValidUnits(unit)) {
+        if (entry.size() < 2) {
             qDebug().noquote() << "UserInterface - QKXDoubleValueList: entry" << i << "of"
                                << (QLatin1Char('"') + owner + QLatin1Char('"'))
                                << "is not [value, units string] - left out";
             continue;
         }
-        valueList.append(value);
-        unitStringList.append(unit);
+        valueList.append(entry.at(0).toDouble());
+        unitStringList.append(entry.at(1).toString());
     }
 
     for (int id = 0; id < valueList.size(); ++id) {
@@ -200,20 +186,14 @@ void QKXDoubleValueList::hideThis()
 
 void QKXDoubleValueList::unregister()
 {
-    if (QObject *f = registeredFilter) {
-        disconnect(f, SIGNAL(editEnd()), this, SLOT(unregister()));
-        disconnect(this, nullptr, f, nullptr);
-    }
+    QKXPopupChain::unchain(this, registeredFilter);
     registeredFilter = nullptr;
     hide();
 }
 
 void QKXDoubleValueList::mousePressEvent(QMouseEvent *event)
 {
-    // Only presses beside the column get here: the column and its buttons take their own.
+    // Only presses beside the column get here. They mean nothing: the edit ends through its filter
+    // (a choice, or the field going away).
     event->accept();
-    if (registeredFilter) {
-        emit cancel();
-    }
-    hide();
 }

@@ -14,7 +14,7 @@ class QVBoxLayout;
 
 // The popup of a discrete value list: a transparent overlay over the screen with a column of the
 // allowed values under the widget (over it when there is no room below). A tap on a value submits it
-// with its units string; a tap beside the column cancels the edit.
+// with its units string; a tap beside the column does nothing.
 class STANDALONEPLUGINS_EXPORT QKXDoubleValueList : public QWidget
 {
     Q_OBJECT
@@ -30,6 +30,9 @@ public:
     QList<double> values() const;
     QStringList unitStrings() const;
 
+    // One button per entry; an entry too short for a value and a units string is left out with a
+    // debug line, and button ids count the entries kept. Buttons a shorter list leaves over are
+    // hidden and kept without a parent for the next longer one.
     virtual void processMetaDataForList(QVariant data);
 
 public Q_SLOTS:
@@ -48,7 +51,6 @@ protected:
 
 private:
     Q_DISABLE_COPY(QKXDoubleValueList)
-    void coverScreen();
     void placeColumn();
 
     QPointer<QObject> registeredFilter;

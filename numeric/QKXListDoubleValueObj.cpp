@@ -1,6 +1,8 @@
 #include "QKXListDoubleValueObj.h"
 #include "QKXListDoubleValueObj_p.h"
 
+#include "KXNumericLines_p.h"
+
 #include <QDebug>
 
 QKXListDoubleValueObjPrivate::QKXListDoubleValueObjPrivate(QKXListDoubleValueObj *q)
@@ -22,8 +24,7 @@ void QKXListDoubleValueObjPrivate::setMetaData(const QVariant &data)
     if (data.userType() != QMetaType::QVariantList || record.size() != 2
         || record.at(1).userType() != QMetaType::QVariantList) {
         // The popup would offer values nobody gave it: the previous record stays.
-        qDebug().noquote() << "UserInterface - QKXListDoubleValueObj"
-                           << (QLatin1Char('"') + attributeNameValue + QLatin1Char('"'))
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q)
                            << "metadata is not [type, [[value, units], ...]] - previous record kept";
         return;
     }

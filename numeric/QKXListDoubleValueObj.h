@@ -19,7 +19,8 @@ public:
 
 public Q_SLOTS:
     // [parameter type, [[value, units string], ...]]: the values become the metadata, the type the
-    // parameter type. Nothing is shown or emitted.
+    // parameter type. Nothing is shown or emitted. Anything else keeps the previous record, with a
+    // debug line: the popup would otherwise offer values nobody gave it.
     void setMetaData(const QVariant &data) override;
 
 protected:

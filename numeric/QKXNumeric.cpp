@@ -1,7 +1,8 @@
 #include "QKXNumeric.h"
 #include "QKXNumeric_p.h"
 
-#include "KXNumberText_p.h"
+#include "KXNumberConversion_p.h"
+#include "KXNumericLines_p.h"
 
 #include "CSS.h"
 
@@ -10,13 +11,11 @@
 #include <QLabel>
 #include <QLineEdit>
 
-// Decimals beyond this say nothing about a double and would only grow the text without bound.
-static constexpr int kx_maxShownDecimals = 64;
+#include <cmath>
 
-static QString kx_quoted(const QString &text)
-{
-    return QLatin1Char('"') + text + QLatin1Char('"');
-}
+// A double has no digit beyond its 1074th decimal, so more decimals only add zeros; Qt's formatter
+// gives up altogether on the largest counts a form could write.
+static constexpr int kx_maxShownDecimals = 1074;
 
 QKXNumericPrivate::QKXNumericPrivate(QKXNumeric *q)
     : QKXWidgetBasePrivate(q)
@@ -109,12 +108,16 @@ int QKXNumericPrivate::precision() const
     return precisionValue;
 }
 
+QString QKXNumericPrivate::decimalText(double value, int precision)
+{
+    return QString::number(value, 'f', qMin(precision, kx_maxShownDecimals));
+}
+
 void QKXNumericPrivate::setPrecision(int precision)
 {
-    if (precision < 0 || precision > kx_maxShownDecimals) {
-        qDebug().noquote() << "UserInterface - QKXNumeric" << kx_quoted(attributeNameValue)
-                           << "precision" << precision << "out of range, showing"
-                           << qBound(0, precision, kx_maxShownDecimals) << "decimals";
+    if (precision > kx_maxShownDecimals) {
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q) << "precision" << precision
+                           << "out of range, showing" << kx_maxShownDecimals << "decimals";
     }
     precisionValue = precision;
     if (!editingValue) {
@@ -131,8 +134,18 @@ QKXNumeric::BaseType QKXNumericPrivate::baseType() const
 
 void QKXNumericPrivate::setBaseType(QKXNumeric::BaseType baseType)
 {
-    // Shown from the next value on: hosts set the base before the first value arrives.
-    base = baseType;
+    switch (baseType) {
+    case QKXNumeric::DEC:
+    case QKXNumeric::HEX:
+    case QKXNumeric::OCT:
+    case QKXNumeric::BIN:
+        // Shown from the next value on: hosts set the base before the first value arrives.
+        base = baseType;
+        return;
+    }
+    // A number the enum lacks: setProperty("Base", 7), or -1 from a form that names no enumerator.
+    qDebug().noquote() << "UserInterface -" << kxnumber::named(q) << "has no number base" << int(baseType)
+                       << "- base" << int(base) << "kept";
 }
 
 bool QKXNumericPrivate::hasSlider() const
@@ -170,9 +183,27 @@ double QKXNumericPrivate::value() const
     return currentValue;
 }
 
+bool QKXNumericPrivate::showable(double value, double shown) const
+{
+    if (std::isfinite(shown)) {
+        return true;
+    }
+    // The display keeps the last number the engine gave, and value() goes on answering with it.
+    if (std::isfinite(value)) {
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q) << "got" << value << "which shows as" << shown
+                           << "- display and value kept";
+    } else {
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q) << "got" << value << "- display and value kept";
+    }
+    return false;
+}
+
 void QKXNumericPrivate::setValue(double value)
 {
     Q_Q(QKXNumeric);
+    if (!showable(value, value)) {
+        return;
+    }
     // Neither clamped nor rounded: the engine's value is the truth, the limits are for the editors.
     currentValue = value;
     setValueText(value);
@@ -184,13 +215,13 @@ void QKXNumericPrivate::setValueText(double value)
 {
     const int radix = kxnumber::radixOf(int(base));
     if (radix == 10) {
-        lineEdit->setText(QString::number(value, 'f', qBound(0, precisionValue, kx_maxShownDecimals)));
+        lineEdit->setText(decimalText(value, precisionValue));
         return;
     }
     if (!kxnumber::fitsInt(value)) {
         // A radix display has no text for it; a made-up number would be read as the engine's.
-        qDebug().noquote() << "UserInterface - QKXNumeric" << kx_quoted(attributeNameValue)
-                           << "cannot show" << value << "in base" << radix << "- display kept";
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q) << "cannot show" << value << "in base" << radix
+                           << "- display kept";
         return;
     }
     // The sign is written out: QString::number() shows negatives of other bases as two's complement.

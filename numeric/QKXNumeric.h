@@ -42,8 +42,14 @@ public:
     virtual bool editing() const;
 
 public Q_SLOTS:
+    // Base 10 shows exactly what QString::number(v, 'f', precision) writes, "nan" and "inf" included.
+    // Another base has no text for a value without a 32-bit integer form (NaN, infinity, beyond int):
+    // the display keeps its text and says so on the debug stream, while the value is stored and
+    // announced as usual. Negatives show a minus sign and the magnitude ("-FF"), never two's complement.
     virtual void setValue(const double &value);
     virtual void setValue(const int &value);
+    // Any precision is shown as QString::number() shows it, up to the 1074 decimals a double can
+    // have; beyond them, with 1074 and a line on the debug stream.
     virtual void setPrecision(const int &precision);
     virtual void setBaseType(const QKXNumeric::BaseType &base);
     virtual void setSlider(const bool &slider);

@@ -1,6 +1,7 @@
 #include "QKXNumericEventFilter.h"
 
-#include "KXNumberText_p.h"
+#include "KXNumberConversion_p.h"
+#include "KXNumericLines_p.h"
 #include "QKXEditStateFilter_p.h"
 
 #include <QDebug>
@@ -43,20 +44,12 @@ bool QKXNumericEventFilterPrivate::parseDisplay(double *number) const
 {
     Q_Q(const QKXNumericEventFilter);
     QLineEdit *display = q->display();
-    if (!display) {
+    if (!display || (dataType != kx_intType && dataType != kx_doubleType)) {
         return false;
     }
-    const QString text = display->text();
-    bool ok = false;
-    if (dataType == kx_intType) {
-        const int radix = kxnumber::radixOf(q->parent()->property("Base"));
-        *number = text.toInt(&ok, radix);
-    } else if (dataType == kx_doubleType) {
-        *number = text.toDouble(&ok);
-        // "nan" and "inf" read as numbers, but no attribute takes them from a user.
-        ok = ok && std::isfinite(*number);
-    }
-    return ok;
+    const kxnumber::NumberForm form = dataType == kx_intType ? kxnumber::NumberForm::Integer
+                                                             : kxnumber::NumberForm::Real;
+    return kxnumber::readNumber(display->text(), form, kxnumber::radixOf(q->parent()->property("Base")), number);
 }
 
 QKXNumericEventFilter::QKXNumericEventFilter(QObject *parent, const QString &dataType, QObject *adapter)
@@ -126,30 +119,24 @@ void QKXNumericEventFilter::editStateInit()
 
 bool QKXNumericEventFilter::keyEventFilter(QObject *watched, QKeyEvent *event)
 {
-    Q_D(QKXNumericEventFilter);
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter: {
-        double number = 0.0;
-        if (d->parseDisplay(&number)) {
-            emit submit(number);
-            emit submit(kxnumber::truncated(number));
-            emit editEnd();
-        } else if (d->dataType == kx_intType || d->dataType == kx_doubleType) {
-            // The edit stays open so that the user can correct the text.
-            qDebug().noquote() << "UserInterface - QKXNumericEventFilter:"
-                               << kx_quoted(display() ? display()->text() : QString())
-                               << "is not a number for" << d->dataType << "- nothing submitted";
-        }
-        break;
-    }
-    case Qt::Key_Escape:
-        cancel();
-        break;
-    default:
-        break;
-    }
+    handleEntryKeys(event);
     return QKXEditStateFilter::keyEventFilter(watched, event);
+}
+
+void QKXNumericEventFilter::commitTypedText()
+{
+    Q_D(QKXNumericEventFilter);
+    double number = 0.0;
+    if (d->parseDisplay(&number)) {
+        emit submit(number);
+        emit submit(kxnumber::truncated(number));
+        emit editEnd();
+    } else if (d->dataType == kx_intType || d->dataType == kx_doubleType) {
+        // The edit stays open so that the user can correct the text.
+        qDebug().noquote() << "UserInterface - QKXNumericEventFilter:"
+                           << kx_quoted(display() ? display()->text() : QString())
+                           << "is not a number for" << d->dataType << "- nothing submitted";
+    }
 }
 
 bool QKXNumericEventFilter::hideEventFilter(QObject *watched, QEvent *event)
@@ -172,11 +159,11 @@ void QKXNumericEventFilter::attempLockSendLockSignal(QWidget *widget, bool locke
 void QKXNumericEventFilter::rememberValue()
 {
     Q_D(QKXNumericEventFilter);
-    using kxnumber::StartValueType;
-    const StartValueType type = d->dataType == kx_intType      ? StartValueType::Integer
-                                : d->dataType == kx_doubleType ? StartValueType::Double
-                                                               : StartValueType::Other;
-    if (!kxnumber::readStartValue(adapter(), parent(), type, &d->savedValue)) {
+    kxnumber::reportEmptyRange(parent());
+    const StartValueType type = d->dataType == kx_intType      ? IntegerStartValue
+                                : d->dataType == kx_doubleType ? DoubleStartValue
+                                                               : NoStartValue;
+    if (!readStartValue(type, &d->savedValue)) {
         qDebug().noquote() << "UserInterface - QKXNumericEventFilter: no current value for" << d->dataType
                            << "- a cancel submits 0";
     }

@@ -1,7 +1,8 @@
 #include "QKXNumericValueObj.h"
 #include "QKXNumericValueObj_p.h"
 
-#include "KXNumberText_p.h"
+#include "KXNumberConversion_p.h"
+#include "KXNumericLines_p.h"
 
 #include "CSS.h"
 #include "QKXComboBox.h"
@@ -17,6 +18,8 @@
 #include <QScopedValueRollback>
 #include <QStyle>
 
+#include <cmath>
+
 using Norvane::Value::Units;
 
 const QString QKXNumericValueObjPrivate::neutralUnitString = QStringLiteral("0,0,0:0;0:0;0:0;0:0;0:0");
@@ -25,16 +28,6 @@ static QString kxunits_quoted(const QString &text)
 {
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
-
-// Reaches the Private of another widget of the family. The selector's Private keeps a plain pointer
-// to its caption, which must be cleared before this widget deletes that caption.
-struct KXWidgetBaseAccess : QKXWidgetBase
-{
-    static QKXWidgetBasePrivate *privateOf(QKXWidgetBase *widget)
-    {
-        return (widget->*(&KXWidgetBaseAccess::d_ptr)).data();
-    }
-};
 
 QKXNumericValueObjPrivate::QKXNumericValueObjPrivate(QKXNumericValueObj *q)
     : QKXNumericPrivate(q)
@@ -119,7 +112,8 @@ void QKXNumericValueObjPrivate::init()
     unitSelector->setObjectName(QStringLiteral("unit_combobox"));
     unitSelector->removeCSS();
     if (QLabel *selectorCaption = unitSelector->findChild<QLabel *>(QStringLiteral("Label"))) {
-        KXWidgetBaseAccess::privateOf(unitSelector)->setLabel(nullptr);
+        // The selector's Private keeps a plain pointer to its caption: clear it before the caption goes.
+        QKXWidgetBasePrivate::get(unitSelector)->setLabel(nullptr);
         delete selectorCaption;
     }
     if (QLabel *unitText = unitSelector->findChild<QLabel *>(QStringLiteral("ComboText"))) {
@@ -209,6 +203,9 @@ void QKXNumericValueObjPrivate::emitValueSignals(double value, double shown)
 void QKXNumericValueObjPrivate::setValue(double value)
 {
     const double shown = displayValue(value);
+    if (!showable(value, shown)) {
+        return;
+    }
     // The numeric field shows (and its plain signals carry) the converted number; the widget keeps
     // the engine's number, so that value() and a cancel answer in the base unit.
     QKXNumericPrivate::setValue(shown);
@@ -220,46 +217,45 @@ void QKXNumericValueObjPrivate::setValue(const int &value)
 {
     const double shown = convertsUnitsValue ? ValueHelper::convertValue(long(value), baseUnits, currentUnits)
                                             : double(value);
+    if (!showable(value, shown)) {
+        return;
+    }
     QKXNumericPrivate::setValue(shown);
     currentValue = value;
     emitValueSignals(value, shown);
 }
 
-bool QKXNumericValueObjPrivate::takeBaseUnit(const QString &unit, const QString &valueText)
+void QKXNumericValueObjPrivate::takeBaseUnit(const QString &unit)
 {
     if (unit == baseUnitString) {
-        return true;
-    }
-    if (!ValueHelper::isValidUnits(unit)) {
-        qDebug().noquote() << "UserInterface - QKXNumericValueObj" << kxunits_quoted(attributeNameValue) << "got"
-                           << valueText << "in" << kxunits_quoted(unit) << "which is no units string - display kept";
-        return false;
+        return;
     }
     const bool hadList = !unitsList.isEmpty();
     baseUnitString = unit;
     baseUnits = ValueHelper::convertToUnits(unit);
     populateList();
     if (hadList && groupMode != QKXNumericValueObj::None && offeredIndexes == QList<int>{-1}) {
-        qDebug().noquote() << "UserInterface - QKXNumericValueObj" << kxunits_quoted(attributeNameValue)
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q)
                            << "no unit of its list converts to"
                            << kxunits_quoted(ValueHelper::getUnitString(baseUnits))
                            << "- only the base unit is offered";
     }
-    return true;
 }
 
 void QKXNumericValueObjPrivate::setValue(const double &value, const QString &unit)
 {
-    if (takeBaseUnit(unit, QString::number(value, 'g', 12))) {
-        setValue(value);
+    // A value with no number to show changes nothing, its unit included.
+    if (!showable(value, value)) {
+        return;
     }
+    takeBaseUnit(unit);
+    setValue(value);
 }
 
 void QKXNumericValueObjPrivate::setValue(const int &value, const QString &unit)
 {
-    if (takeBaseUnit(unit, QString::number(value))) {
-        setValue(value);
-    }
+    takeBaseUnit(unit);
+    setValue(value);
 }
 
 void QKXNumericValueObjPrivate::setMetaData(const QVariant &metaData)
@@ -291,7 +287,7 @@ void QKXNumericValueObjPrivate::setUnitListString(const QString &list)
         if (!ValueHelper::isValidUnits(part)) {
             // One bad part makes the whole list suspect: the field falls back to its base unit.
             if (!list.isEmpty()) {
-                qDebug().noquote() << "UserInterface - QKXNumericValueObj" << kxunits_quoted(attributeNameValue)
+                qDebug().noquote() << "UserInterface -" << kxnumber::named(q)
                                    << "unit list part" << kxunits_quoted(part)
                                    << "is no units string - only the base unit is offered";
             }
@@ -312,9 +308,9 @@ void QKXNumericValueObjPrivate::setUnitListString(const QString &list)
 void QKXNumericValueObjPrivate::setDefaultUnit(int index)
 {
     defaultUnitIndex = index;
-    // A default the list does not offer (yet) waits for the next list; the selector would otherwise
-    // show a unit the field does not use.
-    if (offeredIndexes.contains(index)) {
+    // A default without a unit of the list behind it (forms set DefaultUnit before Units) waits for
+    // the next list; the selector would otherwise show a unit the field does not use.
+    if (index == -1 || unitsByIndex.contains(index)) {
         unitSelector->setIndex(index);
     }
 }
@@ -327,16 +323,12 @@ QString QKXNumericValueObjPrivate::baseUnit() const
 void QKXNumericValueObjPrivate::setBaseUnit(const QString &unit)
 {
     if (!ValueHelper::isValidUnits(unit)) {
-        qDebug().noquote() << "UserInterface - QKXNumericValueObj" << kxunits_quoted(attributeNameValue)
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q)
                            << "base unit" << kxunits_quoted(unit) << "is no units string";
     }
-    const bool showingBase = unitIndexValue < 0;
+    // The unit shown stays as it is until a unit is selected again, even while it is the old base.
     baseUnitString = unit;
     baseUnits = ValueHelper::convertToUnits(unit);
-    if (showingBase) {
-        // Index -1 is the base unit itself, whichever it is.
-        currentUnits = baseUnits;
-    }
 }
 
 QString QKXNumericValueObjPrivate::currentUnit() const
@@ -410,11 +402,10 @@ void QKXNumericValueObjPrivate::populateList()
     {
         QScopedValueRollback<bool> guard(drivingSelector, true);
         // The selector reports an index its record lacks: it is emptied and pointed at the chosen
-        // unit before it gets the new record. A unit without text leaves its record empty.
+        // unit before it gets the new record.
         unitSelector->setMetaData(QVariant());
         unitSelector->setIndex(chosen);
-        const bool textless = list.size() == 1 && list.first().toList().value(1).toString().isEmpty();
-        unitSelector->setMetaData(textless ? QVariant() : QVariant(list));
+        unitSelector->setMetaData(list);
     }
     q->setProperty("UnitList", list);
     selectUnitIndex(chosen);
@@ -430,8 +421,9 @@ void QKXNumericValueObjPrivate::selectUnitIndex(int index)
     if (index != -1 && index == unitIndexValue) {
         return;
     }
-    if (!offeredIndexes.contains(index) && !(index == -1 && offeredIndexes.isEmpty())) {
-        qDebug().noquote() << "UserInterface - QKXNumericValueObj" << kxunits_quoted(attributeNameValue)
+    if (index != -1 && !unitsByIndex.contains(index)) {
+        // Only -1, the base unit itself, and the units of the list have a record to show.
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q)
                            << "offers no unit" << index << "- unit kept";
         if (unitSelector->currentIndex() != unitIndexValue && offeredIndexes.contains(unitIndexValue)) {
             // Someone turned the selector itself: it goes back to the unit in use.
@@ -441,12 +433,11 @@ void QKXNumericValueObjPrivate::selectUnitIndex(int index)
         return;
     }
     if (index == -1 && currentUnit() == baseUnitString) {
-        unitIndexValue = -1;
         return;
     }
 
     unitIndexValue = index;
-    currentUnits = index == -1 ? baseUnits : unitsByIndex.value(index, baseUnits);
+    currentUnits = index == -1 ? baseUnits : unitsByIndex.value(index);
     {
         QScopedValueRollback<bool> guard(drivingSelector, true);
         unitSelector->setIndex(index);
@@ -454,9 +445,15 @@ void QKXNumericValueObjPrivate::selectUnitIndex(int index)
 
     // Rewritten from the stored engine value, never from the text: the text is rounded.
     const double shown = displayValue(currentValue);
-    if (kxnumber::radixOf(int(base)) == 10) {
+    if (!std::isfinite(shown)) {
+        // The stored value is good but has no number in this unit (0 W in dBm): any number left in
+        // the field would now read as one in the new unit.
+        qDebug().noquote() << "UserInterface -" << kxnumber::named(q) << "has no number for" << currentValue << "in"
+                           << kxunits_quoted(ValueHelper::getUnitString(currentUnits)) << "- display emptied";
+        lineEdit->clear();
+    } else if (kxnumber::radixOf(int(base)) == 10) {
         const bool hadDecimals = lineEdit->text().contains(QLatin1Char('.'));
-        lineEdit->setText(QString::number(shown, 'f', hadDecimals ? qBound(0, precisionValue, 64) : 0));
+        lineEdit->setText(decimalText(shown, hadDecimals ? precisionValue : 0));
     } else {
         setValueText(shown);
     }

@@ -44,13 +44,20 @@ public Q_SLOTS:
     void setValue(const double &value) override;
     void setValue(const int &value) override;
     // A value in the unit the string names; a new unit becomes the base unit and rebuilds the list.
+    // When none of the list converts to it, only the base unit is offered, with a debug line.
     virtual void setValue(const double &value, const QString &unit);
     virtual void setValue(const int &value, const QString &unit);
     void setMetaData(const QVariant &metaData) override;
+    // One part that is no units string (malformed, an unknown unit, a prefix on a level) empties the
+    // list, with a debug line; an empty string is no list and is not reported.
     virtual void setUnitListString(const QString &unitList);
+    // A default without a unit of the list behind it only waits for the next list: forms set
+    // DefaultUnit before Units.
     virtual void setDefaultUnit(const int &index);
     virtual void setBaseUnit(const QString &unit);
     void changeSize(QString size) override;
+    // -1 (the base unit) or a unit of the list; any other index is refused with a debug line and the
+    // selector goes back to the unit in use.
     virtual void setUnitIndex(int index);
     virtual void setGroupUnits(const QKXNumericValueObj::Unit_Groups &groups);
     virtual void setConvertsUnits(const bool &converts);

@@ -1,6 +1,7 @@
 #include "QKXNumericValueObjEventFilter.h"
 
-#include "KXNumberText_p.h"
+#include "KXNumberConversion_p.h"
+#include "KXNumericLines_p.h"
 #include "QKXEditStateFilter_p.h"
 
 #include <QDebug>
@@ -72,18 +73,12 @@ bool QKXNumericValueObjEventFilterPrivate::parseDisplay(double *number) const
 {
     Q_Q(const QKXNumericValueObjEventFilter);
     QLineEdit *display = q->display();
-    if (!display) {
+    if (!display || (dataType != kx_valueLongType && dataType != kx_valueDoubleType)) {
         return false;
     }
-    const QString text = display->text();
-    bool ok = false;
-    if (dataType == kx_valueLongType) {
-        *number = text.toInt(&ok, kxnumber::radixOf(q->parent()->property("Base")));
-    } else if (dataType == kx_valueDoubleType) {
-        *number = text.toDouble(&ok);
-        ok = ok && std::isfinite(*number);
-    }
-    return ok;
+    const kxnumber::NumberForm form = dataType == kx_valueLongType ? kxnumber::NumberForm::Integer
+                                                                   : kxnumber::NumberForm::Real;
+    return kxnumber::readNumber(display->text(), form, kxnumber::radixOf(q->parent()->property("Base")), number);
 }
 
 void QKXNumericValueObjEventFilterPrivate::installUnitFilter(bool install)
@@ -177,18 +172,16 @@ QString QKXNumericValueObjEventFilter::getUnitString() const
     if (!widget || !d->unitLabel) {
         return QString();
     }
-    // The label shows the unit after display processing; the selector's Text is the unit as listed.
+    // Matched against the text the label shows: a unit text that display processing or a translation
+    // changes names no unit, and the value goes out with an empty unit string.
     const QString shown = d->unitLabel->text();
-    const QWidget *unitSelector = d->selector();
-    const QString listed = unitSelector ? unitSelector->property("Text").toString() : QString();
     const QVariantList units = widget->property("UnitList").toList();
     for (const QVariant &entry : units) {
         const QVariantList fields = entry.toList();
         if (fields.size() < 4) {
             continue;
         }
-        const QString unit = fields.at(1).toString();
-        if (unit == shown || (!listed.isEmpty() && unit == listed)) {
+        if (fields.at(1).toString() == shown) {
             return fields.at(3).toString();
         }
     }
@@ -238,29 +231,23 @@ void QKXNumericValueObjEventFilter::editStateInit()
 
 bool QKXNumericValueObjEventFilter::keyEventFilter(QObject *watched, QKeyEvent *event)
 {
-    Q_D(QKXNumericValueObjEventFilter);
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter: {
-        double number = 0.0;
-        if (d->parseDisplay(&number)) {
-            emit submit(number, d->unitString);
-            emit submit(kxnumber::truncated(number), d->unitString);
-            emit editEnd();
-        } else if (d->dataType == kx_valueDoubleType || d->dataType == kx_valueLongType) {
-            qDebug().noquote() << "UserInterface - QKXNumericValueObjEventFilter:"
-                               << kx_quoted(display() ? display()->text() : QString())
-                               << "is not a number for" << d->dataType << "- nothing submitted";
-        }
-        break;
-    }
-    case Qt::Key_Escape:
-        cancel();
-        break;
-    default:
-        break;
-    }
+    handleEntryKeys(event);
     return QKXEditStateFilter::keyEventFilter(watched, event);
+}
+
+void QKXNumericValueObjEventFilter::commitTypedText()
+{
+    Q_D(QKXNumericValueObjEventFilter);
+    double number = 0.0;
+    if (d->parseDisplay(&number)) {
+        emit submit(number, d->unitString);
+        emit submit(kxnumber::truncated(number), d->unitString);
+        emit editEnd();
+    } else if (d->dataType == kx_valueDoubleType || d->dataType == kx_valueLongType) {
+        qDebug().noquote() << "UserInterface - QKXNumericValueObjEventFilter:"
+                           << kx_quoted(display() ? display()->text() : QString())
+                           << "is not a number for" << d->dataType << "- nothing submitted";
+    }
 }
 
 bool QKXNumericValueObjEventFilter::hideEventFilter(QObject *watched, QEvent *event)
@@ -286,13 +273,13 @@ void QKXNumericValueObjEventFilter::attempLockSendLockSignal(QWidget *widget, bo
 void QKXNumericValueObjEventFilter::rememberValue()
 {
     Q_D(QKXNumericValueObjEventFilter);
+    kxnumber::reportEmptyRange(parent());
     d->unitString = getUnitString();
-    using kxnumber::StartValueType;
-    const StartValueType type = d->dataType == kx_valueLongType      ? StartValueType::Integer
-                                : d->dataType == kx_valueDoubleType ? StartValueType::Double
-                                                               : StartValueType::Other;
+    const StartValueType type = d->dataType == kx_valueLongType      ? IntegerStartValue
+                                : d->dataType == kx_valueDoubleType ? DoubleStartValue
+                                                                    : NoStartValue;
     // Without an adapter the widget's value() is the engine's number, in the base unit.
-    if (!kxnumber::readStartValue(adapter(), parent(), type, &d->savedValue)) {
+    if (!readStartValue(type, &d->savedValue)) {
         qDebug().noquote() << "UserInterface - QKXNumericValueObjEventFilter: no current value for" << d->dataType
                            << "- a cancel submits 0";
     }

@@ -30,7 +30,8 @@ public:
 
     void setAdapter(QObject *adapter);
     void setUnitFilter(QObject *unitFilter);
-    // The units property string of the unit the selector shows, from the widget's "UnitList".
+    // The units property string of the unit the selector shows: the "UnitList" entry whose text is
+    // the text on the unit label, or "" when none is.
     QString getUnitString() const;
 
     Q_INVOKABLE void submitWidgetValue(double value, QString unit);
@@ -49,6 +50,9 @@ protected Q_SLOTS:
 
 protected:
     bool keyEventFilter(QObject *watched, QKeyEvent *event) override;
+    void commitTypedText() override;
+    // Hiding the field mid-edit cancels once and ends the edit. The hide of a field being destroyed
+    // cancels nothing: there is no engine value left to give back, and the host's slots may be gone.
     bool hideEventFilter(QObject *watched, QEvent *event) override;
     void attempLockSendLockSignal(QWidget *widget, bool locked) override;
     void rememberValue() override;

@@ -49,6 +49,8 @@ public:
     virtual QKXNumericValueObj::Unit_Groups groupUnits() const;
     virtual void selectGroupUnits(QKXNumericValueObj::Unit_Groups groups);
     virtual QVariantList unitToEnum(const Norvane::Value::Units &units, int index);
+    // The selector is pointed at the chosen unit before it gets the new record, so that it never
+    // holds an index its record lacks (which it would report).
     virtual void populateList();
 
     static QString unitSmallStyleTemplate();
@@ -75,16 +77,17 @@ public:
 
     // The indexes the selector offers now (-1 when the base unit stands alone).
     QList<int> offeredIndexes;
-    // Set while the widget itself drives the selector, whose every setIndex echoes back.
+    // Set while the widget itself drives the selector, whose every setIndex echoes back. The echoes
+    // are ignored, which also ends the echo of a base unit string that toString() writes otherwise.
     bool drivingSelector;
 
 public Q_SLOTS:
     virtual void selectUnitIndex(int index);
 
 protected:
-    // Makes the unit the base unit and rebuilds the offered list; false, with a debug line, for a
-    // text that is no units string.
-    bool takeBaseUnit(const QString &unit, const QString &valueText);
+    // Makes the unit the base unit and rebuilds the offered list. A malformed string is read as far
+    // as its shape allows (and reported by the units helper): the engine's unit is the truth.
+    void takeBaseUnit(const QString &unit);
     // The number to show for a value in the base unit.
     double displayValue(double value) const;
     void emitValueSignals(double value, double shown);

@@ -44,6 +44,9 @@ public:
     virtual void setEditing(bool editing);
 
     // The compact and large sheets and the two overlays, in the form hosts and themes rely on.
+    // The value in fixed-point notation with the given decimals, as QString::number() writes it.
+    static QString decimalText(double value, int precision);
+
     static QString smallStyleTemplate();
     static QString largeStyleTemplate();
     static QString lockStyleTemplate();
@@ -64,6 +67,11 @@ public:
     QString largeStyle;
     QString lockStyle;
     QString readOnlyStyle;
+
+protected:
+    // False, with a debug line, when there is no number to show: NaN or an infinity from the engine,
+    // or a finite engine value whose shown form (in another unit) is neither.
+    bool showable(double value, double shown) const;
 
 protected Q_SLOTS:
     virtual void setValueText(double value);

@@ -13,6 +13,10 @@ class QKXPlotManagerPrivate;
 // The plot that forms and the host put on a screen: a canvas with a tool box (hand and zoom tools,
 // reload, save trace), reference patterns, an intake for the traces the engine publishes per topic,
 // and the left axis set by the engine from a top value and a division value.
+//
+// Choices of ours: the grid's major lines are solid and its minor lines dotted, both (0, 255, 255);
+// the tool buttons' pictures are the application's resources, and without them the buttons stay
+// blank rather than warn.
 class STANDALONEPLUGINS_EXPORT QKXPlotManager : public QKXWidgetBase
 {
     Q_OBJECT

@@ -31,6 +31,11 @@ bool setDisplayMode(const QString &mode)
     return true;
 }
 
+bool isPortrait(const QString &mode)
+{
+    return mode == QLatin1String("small_portrait");
+}
+
 bool isGuiLocked()
 {
     return qApp->property(appPropGuiLocked).toBool();

@@ -14,6 +14,8 @@ QStringList displayModes();
 QString displayMode();
 // False, and nothing changes, for a mode the widgets do not know.
 bool setDisplayMode(const QString &mode);
+// Whether the mode stands the panel on its side, 480 x 800 ("small_portrait").
+bool isPortrait(const QString &mode);
 
 // "guilocked": while true, a tap on any widget only brings up the "Interface locked" notice.
 bool isGuiLocked();

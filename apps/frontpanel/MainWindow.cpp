@@ -1,8 +1,9 @@
 #include "MainWindow.h"
 
+#include "AppProperties.h"
 #include "EditLockOwner.h"
-#include "HostWiring.h"
-#include "ScreenForms.h"
+#include "PanelHost.h"
+#include "PanelScreen.h"
 #include "ScreenList.h"
 #include "SettingsFolder.h"
 #include "SimpleFileBrowser.h"
@@ -13,8 +14,11 @@
 
 #include "CSS.h"
 #include "GlobalImpl.h"
+#include "QKXProgressBar.h"
 #include "SystemModule.h"
 
+#include <QBoxLayout>
+#include <QProgressBar>
 #include <QVBoxLayout>
 
 // Only object names and the panel's own dynamic properties are selected here: this sheet cascades
@@ -49,26 +53,43 @@ QLabel[panelCaption="true"] {
 }
 #ScreenTabs { background-color: %2; border-top: 2px solid %3; }
 #ScreenTab {
-    color: white; font-size: 17px; min-width: 120px; min-height: 40px; max-height: 40px;
-    background-color: %1; border: 1px solid %3; border-radius: 8px; padding: 0px 16px;
+    color: white; font-size: 17px; min-height: 40px; max-height: 40px;
+    background-color: %1; border: 1px solid %3; border-radius: 8px; padding: 0px 10px;
 }
 #ScreenTab:checked { background-color: %5; color: %1; font-weight: bold; border-color: %4; }
 )")
         .arg(CSS::gradientDark(), CSS::gradientMiddle(), CSS::gradientLight(), CSS::border(), CSS::highlight());
 }
 
+// The progress bar fills with the palette's two darkest stops, which on the panel's dark sections
+// all but vanish into the bar's own dark groove. The panel gives the fill its own colour, on the bar
+// itself: a sheet on the bar is the only one that outranks the widget's, which stays as it is. Steel
+// blue, light enough to stand out of the groove and dark enough for the white percentage.
+static const char mainwindow_progressFill[] = R"(QProgressBar::chunk {
+    background-color: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #5a94cc, stop:0.5 #3a74ae, stop:1 #5a94cc);
+})";
+
+static void mainwindow_fillProgressBars(QWidget *page)
+{
+    const QList<QKXProgressBar *> bars = page->findChildren<QKXProgressBar *>();
+    for (QKXProgressBar *bar : bars) {
+        if (QProgressBar *inner = bar->findChild<QProgressBar *>()) {
+            inner->setStyleSheet(QString::fromLatin1(mainwindow_progressFill));
+        }
+    }
+}
+
 MainWindow::MainWindow(SimulatedEngine *engine, QWidget *parent)
     : QMainWindow(parent)
     , simulatedEngine(engine)
     , editLock(new EditLockOwner(this))
-    , hostWiring(new HostWiring(engine, editLock, this))
+    , panelHost(new PanelHost(engine, editLock, this))
     , top(new TopContainer(this))
     , strip(new StatusStrip(top))
     , screenList(new ScreenList(top))
 {
     setObjectName(QStringLiteral("MainWindow"));
     setWindowTitle(tr("Front panel"));
-    setFixedSize(PanelWidth, PanelHeight);
     setStyleSheet(mainwindow_styleSheet());
 
     auto *layout = new QVBoxLayout(top);
@@ -79,18 +100,22 @@ MainWindow::MainWindow(SimulatedEngine *engine, QWidget *parent)
     setCentralWidget(top);
 
     connect(editLock, &EditLockOwner::logged, simulatedEngine, &SimulatedEngine::appendLog);
-    connect(hostWiring, &HostWiring::guiLockedMessageRequested, this, &MainWindow::showGuiLockedNotice);
+    connect(panelHost, &PanelHost::guiLockedMessageRequested, this, &MainWindow::showGuiLockedNotice);
+    connect(panelHost, &PanelHost::noticeRequested, strip,
+            [this](const QString &text, StatusStrip::NoticeKind kind) { strip->showNotice(text, kind); });
     connect(simulatedEngine, &SimulatedEngine::commandExecuted, strip,
-            [this](const QString &name) { strip->showNotice(tr("%1 sent").arg(name)); });
+            [this](const QString &name) { strip->showNotice(tr("%1 sent").arg(simulatedEngine->commandLabel(name))); });
     connect(screenList, &ScreenList::currentScreenChanged, strip,
             [this](int index) { strip->setTitle(screenList->screenTitle(index)); });
     connect(strip, &StatusStrip::displayModeChanged, this, [this] {
+        fitDisplayMode();
         for (int i = 0; i < screenList->count(); ++i) {
-            HostWiring::applySizeVariant(screenList->screen(i));
+            PanelHost::applySizeVariant(screenList->screen(i));
         }
     });
 
     buildScreens();
+    fitDisplayMode();
 
     // The host's file chooser: browse buttons listen to it, and it covers the panel while open.
     auto *fileBrowser = new SimpleFileBrowser(this);
@@ -108,14 +133,61 @@ MainWindow::MainWindow(SimulatedEngine *engine, QWidget *parent)
 
 MainWindow::~MainWindow() = default;
 
+QSize MainWindow::panelSize(const QString &displayMode)
+{
+    return AppProperties::isPortrait(displayMode) ? QSize(480, 800) : QSize(800, 480);
+}
+
+void MainWindow::fitDisplayMode()
+{
+    const QSize size = panelSize(AppProperties::displayMode());
+    setFixedSize(size);
+    const bool portrait = size.height() > size.width();
+    for (int i = 0; i < screenList->count(); ++i) {
+        QWidget *page = screenList->screen(i);
+        auto *sections = qobject_cast<QBoxLayout *>(page->layout());
+        if (!sections) {
+            continue;
+        }
+        // The form's own arrangement, kept from before the page was first turned.
+        if (!formArrangements.contains(page)) {
+            FormArrangement form;
+            form.sideBySide = sections->direction() == QBoxLayout::LeftToRight;
+            form.margins = sections->contentsMargins();
+            form.spacing = sections->spacing();
+            for (int item = 0; item < sections->count(); ++item) {
+                form.stretches.append(sections->stretch(item));
+            }
+            formArrangements.insert(page, form);
+        }
+        const FormArrangement &form = formArrangements.value(page);
+        if (!form.sideBySide) {
+            continue;
+        }
+        // Stacked, the sections take the height they need, and the screen's edges and gaps narrow
+        // so that they all fit on the panel.
+        sections->setDirection(portrait ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+        sections->setContentsMargins(portrait ? QMargins(8, 8, 8, 8) : form.margins);
+        sections->setSpacing(portrait ? 8 : form.spacing);
+        for (int item = 0; item < form.stretches.size(); ++item) {
+            sections->setStretch(item, portrait ? 0 : form.stretches.at(item));
+        }
+    }
+}
+
 void MainWindow::buildScreens()
 {
-    const QVector<ScreenForm> forms = screenForms();
-    for (const ScreenForm &form : forms) {
-        QWidget *page = form.build();
-        screenList->addScreen(form.id, page->windowTitle(), page);
-        hostWiring->wireScreen(page);
-        HostWiring::applySizeVariant(page);
+    screenObjects = createPanelScreens();
+    // Every screen's attributes first: a screen's widgets may stand for another screen's attribute.
+    for (const std::unique_ptr<PanelScreen> &screen : screenObjects) {
+        screen->addAttributes(*simulatedEngine);
+    }
+    for (const std::unique_ptr<PanelScreen> &screen : screenObjects) {
+        QWidget *page = screen->buildPage();
+        screenList->addScreen(screen->id(), page->windowTitle(), page);
+        panelHost->wireScreen(screen.get());
+        PanelHost::applySizeVariant(page);
+        mainwindow_fillProgressBars(page);
     }
     screenList->setCurrentIndex(0);
     strip->setTitle(screenList->screenTitle(screenList->currentIndex()));
@@ -138,9 +210,28 @@ EditLockOwner *MainWindow::lockOwner() const
     return editLock;
 }
 
-HostWiring *MainWindow::wiring() const
+PanelHost *MainWindow::host() const
 {
-    return hostWiring;
+    return panelHost;
+}
+
+QList<PanelScreen *> MainWindow::panelScreens() const
+{
+    QList<PanelScreen *> screens;
+    for (const std::unique_ptr<PanelScreen> &screen : screenObjects) {
+        screens.append(screen.get());
+    }
+    return screens;
+}
+
+PanelScreen *MainWindow::panelScreen(const QString &id) const
+{
+    for (const std::unique_ptr<PanelScreen> &screen : screenObjects) {
+        if (screen->id() == id) {
+            return screen.get();
+        }
+    }
+    return nullptr;
 }
 
 ScreenList *MainWindow::screens() const

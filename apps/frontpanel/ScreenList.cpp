@@ -1,8 +1,9 @@
 #include "ScreenList.h"
 
 #include <QButtonGroup>
+#include <QEvent>
 #include <QFrame>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QVariant>
@@ -13,18 +14,19 @@ static const char screenIdProperty[] = "screenId";
 ScreenList::ScreenList(QWidget *parent)
     : QWidget(parent)
     , stack(new QStackedWidget(this))
-    , tabLayout(nullptr)
+    , tabRow(new QFrame(this))
+    , tabLayout(new QGridLayout(tabRow))
     , tabs(new QButtonGroup(this))
+    , tabsPerRow(0)
+    , tabRows(0)
 {
     setObjectName(QStringLiteral("ScreenList"));
     stack->setObjectName(QStringLiteral("ScreenStack"));
 
-    auto *tabRow = new QFrame(this);
     tabRow->setObjectName(QStringLiteral("ScreenTabs"));
-    tabLayout = new QHBoxLayout(tabRow);
     tabLayout->setContentsMargins(8, 6, 8, 6);
     tabLayout->setSpacing(6);
-    tabLayout->addStretch(1);
+    tabRow->installEventFilter(this);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -56,9 +58,65 @@ int ScreenList::addScreen(const QString &id, const QString &title, QWidget *page
     tab->setFocusPolicy(Qt::NoFocus);
     tab->setChecked(index == stack->currentIndex());
     tabs->addButton(tab, index);
-    // Tabs line up from the left; the stretch stays last.
-    tabLayout->insertWidget(tabLayout->count() - 1, tab);
+    tab->setParent(tabRow);
+    tabsPerRow = 0;
+    layOutTabs();
     return index;
+}
+
+int ScreenList::tabRowCount() const
+{
+    return tabRows;
+}
+
+bool ScreenList::eventFilter(QObject *watched, QEvent *event)
+{
+    // The window changes shape with the display mode; the tabs follow its width.
+    if (watched == tabRow && event->type() == QEvent::Resize) {
+        layOutTabs();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void ScreenList::layOutTabs()
+{
+    const QList<QAbstractButton *> buttons = tabs->buttons();
+    if (buttons.isEmpty()) {
+        return;
+    }
+    int widest = 0;
+    for (const QAbstractButton *tab : buttons) {
+        // The current tab's text is bold: every tab keeps room for that.
+        QFont bold = tab->font();
+        bold.setBold(true);
+        const int boldExtra = QFontMetrics(bold).horizontalAdvance(tab->text()) - tab->fontMetrics().horizontalAdvance(tab->text());
+        widest = qMax(widest, tab->sizeHint().width() + boldExtra);
+    }
+    const QMargins margins = tabLayout->contentsMargins();
+    const int available = tabRow->width() - margins.left() - margins.right();
+    const int spacing = tabLayout->horizontalSpacing();
+    const int fitting = qMax(1, (available + spacing) / (widest + spacing));
+    // Rows of equal length: seven tabs that fit five to a row go four and three, not five and two.
+    const int rows = (buttons.size() + fitting - 1) / fitting;
+    const int perRow = (buttons.size() + rows - 1) / rows;
+    if (perRow == tabsPerRow) {
+        return;
+    }
+    tabsPerRow = perRow;
+    tabRows = rows;
+    for (QAbstractButton *tab : buttons) {
+        tabLayout->removeWidget(tab);
+    }
+    for (int column = 0; column < tabLayout->columnCount(); ++column) {
+        tabLayout->setColumnStretch(column, 0);
+    }
+    for (QAbstractButton *tab : buttons) {
+        const int index = tabs->id(tab);
+        tabLayout->addWidget(tab, index / perRow, index % perRow);
+    }
+    for (int column = 0; column < perRow; ++column) {
+        tabLayout->setColumnStretch(column, 1);
+    }
 }
 
 int ScreenList::count() const

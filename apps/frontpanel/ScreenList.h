@@ -4,10 +4,13 @@
 #include <QWidget>
 
 class QButtonGroup;
-class QHBoxLayout;
+class QFrame;
+class QGridLayout;
 class QStackedWidget;
 
-// The panel's screens, one at a time, with a row of tabs along the bottom to switch between them.
+// The panel's screens, one at a time, with tabs along the bottom to switch between them. The tabs
+// share the width evenly; when they no longer fit in one row at their natural width they wrap into
+// rows of equal length, so that screens can be added without a tab running off the panel.
 class ScreenList : public QWidget
 {
     Q_OBJECT
@@ -29,13 +32,24 @@ public:
     int currentIndex() const;
     void setCurrentIndex(int index);
 
+    // How many rows the tabs take now.
+    int tabRowCount() const;
+
 Q_SIGNALS:
     void currentScreenChanged(int index);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    void layOutTabs();
+
     QStackedWidget *stack;
-    QHBoxLayout *tabLayout;
+    QFrame *tabRow;
+    QGridLayout *tabLayout;
     QButtonGroup *tabs;
+    int tabsPerRow;
+    int tabRows;
 };
 
 #endif // SCREENLIST_H

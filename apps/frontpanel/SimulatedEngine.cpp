@@ -4,6 +4,7 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <cmath>
 #include <cstdio>
 
 static QString engine_valueText(const QVariant &value)
@@ -16,33 +17,28 @@ static QString engine_valueText(const QVariant &value)
 
 SimulatedEngine::SimulatedEngine(QObject *parent)
     : QObject(parent)
-    , presetValues({{QStringLiteral("Frequency"), 1.0e9},
-                    {QStringLiteral("Level"), -30.0},
-                    {QStringLiteral("Channel"), 16},
-                    {QStringLiteral("UnitAddress"), 0x1A2B},
-                    {QStringLiteral("Squelch"), -100},
-                    {QStringLiteral("RfOutput"), true},
-                    {QStringLiteral("SweepState"), QStringLiteral("Stopped")},
-                    {QStringLiteral("SelfTestResult"), QStringLiteral("Not run")},
-                    {QStringLiteral("SweepProgress"), 0},
-                    {QStringLiteral("Overload"), false},
-                    {QStringLiteral("Recording"), QStringLiteral("Stopped")},
-                    {QStringLiteral("SettingsFile"), QString()}})
-    , values(presetValues)
-    , commands({QStringLiteral("Preset"), QStringLiteral("SelfTest"), QStringLiteral("RfOn"),
-                QStringLiteral("RfOff"), QStringLiteral("StartSweep"), QStringLiteral("StopSweep"),
-                QStringLiteral("PlayRecording"), QStringLiteral("StopRecording"), QStringLiteral("SaveTrace")})
     , echo(false)
-    , settleTimes({{QStringLiteral("RfOutput"), 800}})
-    , limits({{QStringLiteral("Frequency"), {9.0e3, 6.0e9}},
-              {QStringLiteral("Level"), {-130.0, 10.0}},
-              {QStringLiteral("Channel"), {1.0, 999.0}},
-              {QStringLiteral("UnitAddress"), {0.0, 65535.0}},
-              {QStringLiteral("Squelch"), {-120.0, -60.0}}})
     , sweepTimer(new QTimer(this))
 {
-    addEnumerations();
-    addUnitAttributes();
+    // What every screen shares. Preset restores every attribute any screen declared.
+    addCommand(QStringLiteral("Preset"), tr("Preset"), [this] {
+        for (auto it = presetValues.constBegin(); it != presetValues.constEnd(); ++it) {
+            setValue(it.key(), it.value());
+        }
+    });
+    addValue(QStringLiteral("RfOutput"), true);
+    setSettleTime(QStringLiteral("RfOutput"), 800);
+    addCommand(QStringLiteral("RfOn"), tr("RF on"), [this] { setValue(QStringLiteral("RfOutput"), true); });
+    addCommand(QStringLiteral("RfOff"), tr("RF off"), [this] { setValue(QStringLiteral("RfOutput"), false); });
+    addValue(QStringLiteral("SweepState"), QStringLiteral("Stopped"));
+    addValue(QStringLiteral("SweepProgress"), 0);
+    addValue(QStringLiteral("Overload"), false);
+    addCommand(QStringLiteral("StartSweep"), tr("Start sweep"),
+               [this] { setValue(QStringLiteral("SweepState"), QStringLiteral("Running")); });
+    addCommand(QStringLiteral("StopSweep"), tr("Stop sweep"),
+               [this] { setValue(QStringLiteral("SweepState"), QStringLiteral("Stopped")); });
+    addValue(QStringLiteral("SettingsFile"), QString());
+
     sweepTimer->setInterval(150);
     connect(sweepTimer, &QTimer::timeout, this, &SimulatedEngine::stepSweep);
     connect(this, &SimulatedEngine::valueChanged, this, [this](const QString &name, const QVariant &value) {
@@ -58,6 +54,23 @@ SimulatedEngine::SimulatedEngine(QObject *parent)
 
 SimulatedEngine::~SimulatedEngine() = default;
 
+void SimulatedEngine::addValue(const QString &name, const QVariant &preset)
+{
+    if (hasAttribute(name)) {
+        return;
+    }
+    presetValues.insert(name, preset);
+    values.insert(name, preset);
+}
+
+void SimulatedEngine::addCommand(const QString &name, const QString &label, const std::function<void()> &effect)
+{
+    if (hasAttribute(name)) {
+        return;
+    }
+    commands.insert(name, {label, effect});
+}
+
 bool SimulatedEngine::hasAttribute(const QString &name) const
 {
     return values.contains(name) || commands.contains(name);
@@ -70,9 +83,15 @@ bool SimulatedEngine::isCommand(const QString &name) const
 
 QStringList SimulatedEngine::attributeNames() const
 {
-    QStringList names = values.keys() + commands;
+    QStringList names = values.keys() + commands.keys();
     names.sort();
     return names;
+}
+
+QString SimulatedEngine::commandLabel(const QString &name) const
+{
+    const QString label = commands.value(name).label;
+    return label.isEmpty() ? name : label;
 }
 
 QVariant SimulatedEngine::value(const QString &name) const
@@ -103,55 +122,41 @@ bool SimulatedEngine::command(const QString &name)
         return false;
     }
     appendLog(QStringLiteral("command %1").arg(name));
-    applyCommandEffect(name);
+    const std::function<void()> effect = commands.value(name).effect;
+    if (effect) {
+        effect();
+    }
     emit commandExecuted(name);
     return true;
 }
 
-void SimulatedEngine::applyCommandEffect(const QString &name)
-{
-    if (name == QLatin1String("Preset")) {
-        for (auto it = presetValues.constBegin(); it != presetValues.constEnd(); ++it) {
-            setValue(it.key(), it.value());
-        }
-    } else if (name == QLatin1String("SelfTest")) {
-        setValue(QStringLiteral("SelfTestResult"), QStringLiteral("Passed"));
-    } else if (name == QLatin1String("RfOn")) {
-        setValue(QStringLiteral("RfOutput"), true);
-    } else if (name == QLatin1String("RfOff")) {
-        setValue(QStringLiteral("RfOutput"), false);
-    } else if (name == QLatin1String("StartSweep")) {
-        setValue(QStringLiteral("SweepState"), QStringLiteral("Running"));
-    } else if (name == QLatin1String("StopSweep")) {
-        setValue(QStringLiteral("SweepState"), QStringLiteral("Stopped"));
-    } else if (name == QLatin1String("PlayRecording")) {
-        setValue(QStringLiteral("Recording"), QStringLiteral("Playing"));
-    } else if (name == QLatin1String("StopRecording")) {
-        setValue(QStringLiteral("Recording"), QStringLiteral("Stopped"));
-    }
-}
-
-void SimulatedEngine::requestValue(const QString &name, const QVariant &value)
+SimulatedEngine::Answer SimulatedEngine::requestValue(const QString &name, const QVariant &value)
 {
     if (!values.contains(name)) {
         appendLog(QStringLiteral("request %1 rejected: unknown attribute").arg(name));
-        return;
+        return Refused;
     }
     if (!acceptsListedValue(name, value)) {
         emit valueConfirmed(name, values.value(name));
-        return;
+        return Refused;
     }
+    Answer answer = Taken;
     QVariant accepted = nearestDiscreteValue(name, value);
     if (limits.contains(name)) {
         bool isNumber = false;
         const double asked = value.toDouble(&isNumber);
-        const double kept = isNumber && !qIsNaN(asked) ? qBound(lowerLimit(name), asked, upperLimit(name))
-                                                       : values.value(name).toDouble();
+        const bool usable = isNumber && !qIsNaN(asked);
+        const double kept = usable ? qBound(lowerLimit(name), asked, upperLimit(name)) : values.value(name).toDouble();
         // The attribute keeps its type: an integer attribute stays integer whatever it was sent.
         accepted = values.value(name).type() == QVariant::Int ? QVariant(qRound(kept)) : QVariant(kept);
         if (accepted != value) {
             appendLog(QStringLiteral("request %1 = %2 clamped to %3").arg(name, engine_valueText(value),
                                                                            engine_valueText(accepted)));
+        }
+        if (!usable) {
+            answer = Refused;
+        } else if (kept != asked) {
+            answer = Clamped;
         }
     }
     const auto apply = [this, name, value = accepted] {
@@ -165,10 +170,11 @@ void SimulatedEngine::requestValue(const QString &name, const QVariant &value)
     const int delay = settleTime(name);
     if (delay <= 0) {
         apply();
-        return;
+        return answer;
     }
     appendLog(QStringLiteral("request %1 = %2, settling for %3 ms").arg(name, engine_valueText(value)).arg(delay));
     QTimer::singleShot(delay, this, apply);
+    return answer;
 }
 
 int SimulatedEngine::settleTime(const QString &name) const
@@ -199,6 +205,80 @@ double SimulatedEngine::upperLimit(const QString &name) const
 void SimulatedEngine::setLimits(const QString &name, double lower, double upper)
 {
     limits.insert(name, qMakePair(lower, upper));
+}
+
+void SimulatedEngine::setMetaData(const QString &name, const QVariant &record)
+{
+    records.insert(name, record);
+}
+
+bool SimulatedEngine::isEnumerated(const QString &name) const
+{
+    return records.contains(name);
+}
+
+QVariant SimulatedEngine::metaData(const QString &name) const
+{
+    return records.value(name);
+}
+
+bool SimulatedEngine::acceptsListedValue(const QString &name, const QVariant &value)
+{
+    const auto record = records.constFind(name);
+    if (record == records.constEnd()) {
+        return true;
+    }
+    bool isNumber = false;
+    const int code = value.toInt(&isNumber);
+    if (isNumber) {
+        for (const QVariant &entry : record.value().toList()) {
+            if (entry.toList().value(0).toInt() == code) {
+                return true;
+            }
+        }
+    }
+    appendLog(QStringLiteral("request %1 = %2 rejected: not a listed value").arg(name, value.toString()));
+    return false;
+}
+
+void SimulatedEngine::setUnit(const QString &name, const QString &unitString)
+{
+    unitStrings.insert(name, unitString);
+}
+
+QString SimulatedEngine::unitString(const QString &name) const
+{
+    return unitStrings.value(name);
+}
+
+void SimulatedEngine::setDiscreteValues(const QString &name, const QList<double> &allowed)
+{
+    discreteLists.insert(name, allowed);
+}
+
+QList<double> SimulatedEngine::discreteValues(const QString &name) const
+{
+    return discreteLists.value(name);
+}
+
+QVariant SimulatedEngine::nearestDiscreteValue(const QString &name, const QVariant &value)
+{
+    const QList<double> allowed = discreteLists.value(name);
+    bool isNumber = false;
+    const double asked = value.toDouble(&isNumber);
+    if (allowed.isEmpty() || !isNumber || std::isnan(asked)) {
+        return value;
+    }
+    double nearest = allowed.first();
+    for (double candidate : allowed) {
+        if (std::fabs(candidate - asked) < std::fabs(nearest - asked)) {
+            nearest = candidate;
+        }
+    }
+    if (nearest != asked) {
+        appendLog(QStringLiteral("request %1 = %2 set to the nearest filter, %3").arg(name).arg(asked).arg(nearest));
+    }
+    return nearest;
 }
 
 bool SimulatedEngine::loadSettings(const QString &path)

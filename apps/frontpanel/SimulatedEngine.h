@@ -6,22 +6,40 @@
 #include <QStringList>
 #include <QVariantMap>
 
+#include <functional>
+
 class QTimer;
 
 // A stand-in for the instrument's measurement engine: a set of named attributes with values, a few
 // of which are commands (attributes without a value). It also keeps the session log, the one
-// transcript that the host side (lock owner, wiring, scripted session) writes into, so the order of
+// transcript that the host side (lock owner, wiring, screen scripts) writes into, so the order of
 // everything that happened during an edit can be read back in one place.
+//
+// The engine itself holds what every screen shares: Preset, the RF output with its two commands,
+// the sweep and the settings file. Each screen adds the attributes its own widgets stand for
+// (PanelScreen::addAttributes) before any screen is built, so a screen may show another's attribute.
 class SimulatedEngine : public QObject
 {
     Q_OBJECT
 public:
+    // How a request was answered, as the host may want to tell the user.
+    enum Answer { Taken, Clamped, Refused };
+
     explicit SimulatedEngine(QObject *parent = nullptr);
     ~SimulatedEngine() override;
+
+    // A value attribute; Preset gives it preset back. Declaring an attribute twice keeps the first
+    // declaration: two screens may show the same attribute.
+    void addValue(const QString &name, const QVariant &preset);
+    // A command attribute. The label names it to the user ("Start sweep"); the effect runs each time
+    // the command does.
+    void addCommand(const QString &name, const QString &label, const std::function<void()> &effect = {});
 
     bool hasAttribute(const QString &name) const;
     bool isCommand(const QString &name) const;
     QStringList attributeNames() const;
+    // What the user reads for a command; its name for a command declared without a label.
+    QString commandLabel(const QString &name) const;
 
     // An invalid value for unknown attributes and for commands.
     QVariant value(const QString &name) const;
@@ -36,20 +54,23 @@ public:
     // relay): their value is set, and confirmed, after settleTime(). Every request ends with
     // valueConfirmed(), also when the value did not change, so a widget waiting in a loading look
     // always hears back. Asking for "SettingsFile" loads that file.
-    void requestValue(const QString &name, const QVariant &value);
+    Answer requestValue(const QString &name, const QVariant &value);
     int settleTime(const QString &name) const;
     void setSettleTime(const QString &name, int ms);
 
-    // Enumerated attributes (SimulatedEngineEnums.cpp): the record of [value, literal] entries that the
-    // widgets list, or an invalid variant for an attribute that is not enumerated. A request for a value
-    // the record lacks is turned down, and the value held is confirmed again.
+    // Enumerated attributes: the record of [value, literal] entries that the widgets list, or an
+    // invalid variant for an attribute that is not enumerated. A request for a value the record lacks
+    // is refused, and the value held is confirmed again.
+    void setMetaData(const QString &name, const QVariant &record);
     bool isEnumerated(const QString &name) const;
     QVariant metaData(const QString &name) const;
 
-    // Attributes with units (SimulatedEngineUnits.cpp): the engine holds their values in the base unit
-    // its units property string names ("" for an attribute without units). Some take only the values
-    // of a discrete list (empty for the others); a request between two of them gets the nearest.
+    // Attributes with units: the engine holds their values in the base unit its units property
+    // string names ("" for an attribute without units). Some take only the values of a discrete list
+    // (empty for the others); a request between two of them gets the nearest.
+    void setUnit(const QString &name, const QString &unitString);
     QString unitString(const QString &name) const;
+    void setDiscreteValues(const QString &name, const QList<double> &values);
     QList<double> discreteValues(const QString &name) const;
 
     // The range a numeric attribute accepts. A request outside it is clamped to it (and the log says
@@ -82,15 +103,17 @@ Q_SIGNALS:
     void commandExecuted(const QString &name);
 
 private:
-    void applyCommandEffect(const QString &name);
-    void addEnumerations();
     bool acceptsListedValue(const QString &name, const QVariant &value);
-    void addUnitAttributes();
     QVariant nearestDiscreteValue(const QString &name, const QVariant &value);
+
+    struct Command {
+        QString label;
+        std::function<void()> effect;
+    };
 
     QVariantMap presetValues;
     QVariantMap values;
-    QStringList commands;
+    QHash<QString, Command> commands;
     QStringList lines;
     bool echo;
     QHash<QString, int> settleTimes;

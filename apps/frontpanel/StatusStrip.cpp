@@ -4,13 +4,14 @@
 
 #include <QApplication>
 #include <QDynamicPropertyChangeEvent>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
 
 StatusStrip::StatusStrip(QWidget *parent)
     : QFrame(parent)
+    , grid(new QGridLayout(this))
     , titleLabel(new QLabel(this))
     , noticeLabel(new QLabel(this))
     , guiLockToggle(new QPushButton(tr("GUI lock"), this))
@@ -27,15 +28,15 @@ StatusStrip::StatusStrip(QWidget *parent)
     sizeToggle->setObjectName(QStringLiteral("SizeToggle"));
     sizeToggle->setFocusPolicy(Qt::NoFocus);
 
-    auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(14, 4, 8, 4);
-    layout->setSpacing(8);
-    layout->addWidget(titleLabel);
-    layout->addStretch(1);
-    layout->addWidget(noticeLabel);
-    layout->addStretch(1);
-    layout->addWidget(guiLockToggle);
-    layout->addWidget(sizeToggle);
+    // Title, room, notice, room, the two switches; the notice moves to a line of its own in portrait.
+    grid->setContentsMargins(14, 4, 8, 4);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(4);
+    grid->addWidget(titleLabel, 0, 0);
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(3, 1);
+    grid->addWidget(guiLockToggle, 0, 4);
+    grid->addWidget(sizeToggle, 0, 5);
 
     noticeTimer.setSingleShot(true);
     connect(&noticeTimer, &QTimer::timeout, noticeLabel, [this] {
@@ -108,8 +109,26 @@ void StatusStrip::syncFromApplication()
     if (mode != shownDisplayMode) {
         const bool first = shownDisplayMode.isEmpty();
         shownDisplayMode = mode;
+        arrange(AppProperties::isPortrait(mode));
         if (!first) {
             emit displayModeChanged(mode);
         }
+    }
+}
+
+void StatusStrip::arrange(bool portrait)
+{
+    grid->removeWidget(noticeLabel);
+    if (portrait) {
+        grid->addWidget(noticeLabel, 1, 0, 1, 6, Qt::AlignHCenter);
+        // As high as a notice is, shown or not: measured on a line of text, as the sheet pads it.
+        const QString shown = noticeLabel->text();
+        noticeLabel->ensurePolished();
+        noticeLabel->setText(QStringLiteral("X"));
+        grid->setRowMinimumHeight(1, noticeLabel->sizeHint().height());
+        noticeLabel->setText(shown);
+    } else {
+        grid->addWidget(noticeLabel, 0, 2);
+        grid->setRowMinimumHeight(1, 0);
     }
 }

@@ -4,12 +4,14 @@
 #include <QFrame>
 #include <QTimer>
 
+class QGridLayout;
 class QLabel;
 class QPushButton;
 
 // The strip along the top of the panel: the current screen's title, a transient notice, and the
 // switches for the interface lock and the display mode. The switches write the application's
-// properties and follow them, whoever changes them.
+// properties and follow them, whoever changes them. On the narrow portrait panel the notice has a
+// line of its own under the others, kept free while no notice shows so the screen never jumps.
 class StatusStrip : public QFrame
 {
     Q_OBJECT
@@ -35,7 +37,9 @@ protected:
 private:
     void cycleDisplayMode();
     void syncFromApplication();
+    void arrange(bool portrait);
 
+    QGridLayout *grid;
     QLabel *titleLabel;
     QLabel *noticeLabel;
     QPushButton *guiLockToggle;

@@ -29,4 +29,10 @@ QString describe(const QObject *widget)
     return QString::fromLatin1(widget->metaObject()->className());
 }
 
+QString caption(const QObject *widget)
+{
+    const QString label = widget ? widget->property("LabelText").toString().trimmed() : QString();
+    return label.isEmpty() ? describe(widget) : label;
+}
+
 } // namespace WidgetNaming

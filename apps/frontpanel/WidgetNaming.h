@@ -14,6 +14,9 @@ QString boundAttribute(const QObject *widget);
 // How the log names a widget: its attribute, else its object name, else its class.
 QString describe(const QObject *widget);
 
+// How a notice names a widget to the user: the caption shown with it, else as the log names it.
+QString caption(const QObject *widget);
+
 } // namespace WidgetNaming
 
 #endif // WIDGETNAMING_H

@@ -1,7 +1,8 @@
 #include "AppProperties.h"
 #include "MainWindow.h"
+#include "PanelScreen.h"
 #include "ScreenList.h"
-#include "ScriptedSession.h"
+#include "ScreenRunner.h"
 #include "SimulatedEngine.h"
 
 #include <QApplication>
@@ -39,50 +40,36 @@ static int frontpanel_runHeadless(MainWindow &window, const QString &outputDir, 
         << dir.absolutePath() << Qt::endl;
 
     window.show();
-    ScriptedSession session(&window);
+    ScreenRunner runner(&window, dir);
     bool ok = true;
-    QStringList images = session.renderScreens(dir);
+    QStringList images = runner.renderScreens();
     if (images.size() != window.screens()->count()) {
-        err << "frontpanel: " << session.failure() << Qt::endl;
+        err << "frontpanel: " << runner.failure() << Qt::endl;
         ok = false;
     }
-    if (session.tapPushButton(tapTarget)) {
+    if (runner.tapPushButton(tapTarget)) {
         out << "frontpanel: scripted tap on " << tapTarget << " complete" << Qt::endl;
     } else {
-        err << "frontpanel: scripted tap failed: " << session.failure() << Qt::endl;
+        err << "frontpanel: scripted tap failed: " << runner.failure() << Qt::endl;
         ok = false;
     }
-    const QString afterTap = session.renderWindow(dir, QStringLiteral("after-tap-%1").arg(tapTarget));
+    const QString afterTap = runner.renderWindow(QStringLiteral("after-tap-%1").arg(tapTarget));
     if (afterTap.isEmpty()) {
-        err << "frontpanel: " << session.failure() << Qt::endl;
+        err << "frontpanel: " << runner.failure() << Qt::endl;
         ok = false;
     } else {
         images.append(afterTap);
     }
-    if (session.playSwitchesRoads(dir, images)) {
-        out << "frontpanel: switches roads complete" << Qt::endl;
-    } else {
-        err << "frontpanel: switches road failed: " << session.failure() << Qt::endl;
-        ok = false;
+    // Each screen's script, in tab order; a failed one does not keep the others from playing.
+    for (PanelScreen *screen : window.panelScreens()) {
+        if (runner.play(screen)) {
+            out << "frontpanel: " << screen->id() << " screen played" << Qt::endl;
+        } else {
+            err << "frontpanel: " << screen->id() << " screen failed: " << runner.failure() << Qt::endl;
+            ok = false;
+        }
     }
-    if (session.playNumericRoad(dir, images)) {
-        out << "frontpanel: numeric road complete" << Qt::endl;
-    } else {
-        err << "frontpanel: numeric road failed: " << session.failure() << Qt::endl;
-        ok = false;
-    }
-    if (session.playChoicesRoads(dir, images)) {
-        out << "frontpanel: choices roads complete" << Qt::endl;
-    } else {
-        err << "frontpanel: choices road failed: " << session.failure() << Qt::endl;
-        ok = false;
-    }
-    if (session.playUnitsRoads(dir, images)) {
-        out << "frontpanel: units roads complete" << Qt::endl;
-    } else {
-        err << "frontpanel: units road failed: " << session.failure() << Qt::endl;
-        ok = false;
-    }
+    images.append(runner.images());
     for (const QString &image : qAsConst(images)) {
         out << image << '\n';
     }
@@ -110,7 +97,7 @@ int main(int argc, char *argv[])
                                         QStringLiteral("mode"), QStringLiteral("normal"));
     const QCommandLineOption guiLockedOption(QStringLiteral("guilocked"), QStringLiteral("Start with the interface locked."));
     const QCommandLineOption headlessOption(QStringLiteral("headless"),
-                                            QStringLiteral("Render every screen to images and play a scripted tap, then exit."));
+                                            QStringLiteral("Render every screen to images, play a scripted tap and each screen's edits, then exit."));
     const QCommandLineOption outputOption(QStringLiteral("output"), QStringLiteral("Folder for the images of a headless run."),
                                           QStringLiteral("dir"), QStringLiteral("screens"));
     const QCommandLineOption tapOption(QStringLiteral("tap"), QStringLiteral("Attribute of the command button the headless run taps."),

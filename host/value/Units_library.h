@@ -35,7 +35,8 @@ public:
     // power of ten and convert exactly (one rounding). Otherwise throws UnitDimensionNotSame when
     // the dimensions differ, NoRuleToConvert when they agree but no rule exists (dBc, a level
     // raised to a power, a unit the library does not know), and Value_exception for a level of a
-    // negative quantity. A level of zero is minus infinity.
+    // negative quantity. A level of zero is minus infinity. Two prefixes of the very same record
+    // convert whatever the unit, known or not; a prefix that reaches a level scales the level number.
     static double Convert(double value, const Units &from, const Units &to);
 
     // Converts a value and its error bounds. The bounds are converted as the interval's ends; an

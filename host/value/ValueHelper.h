@@ -29,23 +29,29 @@ public:
     // value in `from` expressed in `to`, or value unchanged when that is not possible.
     static double convertValue(double value, const Norvane::Value::Units &from,
                                const Norvane::Value::Units &to);
-    // The same for an integer, rounded half up to a whole number (6.5 gives 7, -6.5 gives -6).
+    // The same for an integer, rounded half up to a whole number (6.5 gives 7, -6.5 gives -6): the
+    // floor, plus one when the fraction is at least a half, exactly; floor(x + 0.5) in doubles would
+    // take 0.49999999999999994 to 1 and 2^52 + 1 to 2^52 + 2.
     static double convertValue(long value, const Norvane::Value::Units &from,
                                const Norvane::Value::Units &to);
 
     // The base units of the value with the prefix that reads best for it: the decade of the value
     // in base units, rounded down to a multiple of three, from pico to peta. A value whose decade
     // is negative drops one step further (0.0015 Hz gives mHz, 0.001 Hz gives µHz); zero gives pico.
-    // A level (dBm and the like) always keeps prefix 0.
+    // A level (dBm and the like) always keeps prefix 0. The decade comes from comparing with the
+    // powers of ten, not from log10, which rounds 999.9999999999999 up to 3. NaN gives prefix 0,
+    // infinity peta.
     static Norvane::Value::Units bestFitUnit(const Norvane::Value::Value_object<double> &v);
     // For a value and its companion (a step, a limit): the one with fewer integer digits in the
-    // base units of `a` chooses, `b` on a tie; a zero value leaves the choice to the other.
+    // base units of `a` chooses, `b` on a tie; a zero value leaves the choice to the other. A value
+    // that is not finite counts as longer than any other; -0.5 truncates to "0", one character.
     // Throws when `b` cannot be expressed in the units of `a`.
     static Norvane::Value::Units bestFitUnit(const Norvane::Value::Value_object<double> &a,
                                              const Norvane::Value::Value_object<double> &b);
 
     // The unit text shown to the user ("kHz", "dBm", "MΩ"), binary multiples written the
-    // traditional way ("KiB" as "KB"); empty, with a debug line, when the library has none.
+    // traditional way ("KiB" as "KB"); empty, with a debug line, when the library has none. Recent
+    // texts are kept per thread (64 of them): a meter asks for the same text with every reading.
     static QString getUnitString(const Norvane::Value::Units &u);
     // The same, throwing Value_exception where getUnitString reports and answers empty.
     static QString displayText(const Norvane::Value::Units &u);
@@ -54,7 +60,8 @@ public:
 
     // Reads a units property string. A malformed one is reported on the debug stream and read as
     // far as its shape allows: parts that are missing count as zero, parts beyond the fifth pair
-    // are ignored, a field that is not a number counts as zero.
+    // are ignored, a field that is not a number counts as zero. Fields are read as QString::toInt
+    // reads them. A string without its third part gets both lines, since it has no five pairs either.
     static Norvane::Value::Units convertToUnits(const QString &s);
 
     // True for a string that toString could have written for a record the library can name:

@@ -1,9 +1,11 @@
 #include "AppProperties.h"
 #include "EditLockOwner.h"
-#include "HostWiring.h"
 #include "MainWindow.h"
+#include "PanelHost.h"
+#include "PanelScreen.h"
 #include "ScreenList.h"
-#include "ScriptedSession.h"
+#include "ScreenRunner.h"
+#include "SimpleFileBrowser.h"
 #include "SimulatedEngine.h"
 #include "StatusStrip.h"
 #include "TopContainer.h"
@@ -12,16 +14,22 @@
 #include "QKXEditStateFilter.h"
 #include "QKXPushButton.h"
 #include "QKXPushButtonEventFilter.h"
+#include "QKXToggleButton.h"
 #include "SystemModule.h"
 
 #include <QApplication>
+#include <QBoxLayout>
 #include <QDir>
 #include <QImage>
+#include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScopedPointer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <cmath>
 
 class tst_FrontPanelHost : public QObject
 {
@@ -37,6 +45,10 @@ private slots:
     void guiLockedTapGivesNoticeOnly();
     void badBindings();
     void statusStripSwitchesWriteAndFollowProperties();
+    void panelFitsEveryDisplayMode_data();
+    void panelFitsEveryDisplayMode();
+    void progressFillStandsOutOfItsGroove();
+    void settingsFileShownOnOneLine();
     void scriptedSessionTapsAndRenders();
 
 private:
@@ -144,9 +156,8 @@ void tst_FrontPanelHost::hostRegistrationAndTopContainer()
 
 void tst_FrontPanelHost::tapSendsCommandOnceAndFreesLock()
 {
-    QWidget *commands = commandsScreen();
     // Wiring a screen twice must not give its buttons a second filter (and every tap two commands).
-    QCOMPARE(window->wiring()->wireScreen(commands), 0);
+    QCOMPARE(window->host()->wireScreen(window->panelScreen(QStringLiteral("commands"))), 0);
 
     QKXPushButton *preset = commandButton(QStringLiteral("Preset"));
     QSignalSpy granted(window->lockOwner(), &EditLockOwner::lockGranted);
@@ -172,6 +183,8 @@ void tst_FrontPanelHost::tapSendsCommandOnceAndFreesLock()
                                QStringLiteral("lock released RfOff")};
     QCOMPARE(engine->log(), rfOff);
     QCOMPARE(engine->value(QStringLiteral("RfOutput")), QVariant(false));
+    // The notice names the command as its button does, not by the engine's name for it.
+    QCOMPARE(window->statusStrip()->notice(), QStringLiteral("RF off sent"));
 
     // A drag that starts on the button and leaves it is not a tap.
     engine->clearLog();
@@ -236,7 +249,7 @@ void tst_FrontPanelHost::guiLockedTapGivesNoticeOnly()
     QVERIFY(lockToggle->isChecked());
 
     QKXPushButton *preset = commandButton(QStringLiteral("Preset"));
-    QSignalSpy requested(window->wiring(), &HostWiring::guiLockedMessageRequested);
+    QSignalSpy requested(window->host(), &PanelHost::guiLockedMessageRequested);
     QTest::mouseClick(innerButton(preset), Qt::LeftButton);
     settle();
     QCOMPARE(requested.count(), 1);
@@ -270,9 +283,13 @@ void tst_FrontPanelHost::badBindings()
     notCommand->setGeometry(560, 300, 200, 60);
     notCommand->show();
 
+    // A family the screen does not wire would ignore every tap: said, not silently left inert.
+    auto *toggle = new QKXToggleButton(commands);
+    toggle->setAttributeName(QStringLiteral("RfOutput"));
+    QTest::ignoreMessage(QtWarningMsg, "frontpanel: no wiring for QKXToggleButton bound to RfOutput on the commands screen");
     QTest::ignoreMessage(QtWarningMsg, "frontpanel: NoSuchAttribute is not an engine attribute");
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("is bound to no attribute and stays inert$")));
-    QCOMPARE(window->wiring()->wireScreen(commands), 2);
+    QCOMPARE(window->host()->wireScreen(window->panelScreen(QStringLiteral("commands"))), 2);
     QVERIFY(!unbound->getEventFilter());
 
     QTest::mouseClick(innerButton(unknown), Qt::LeftButton);
@@ -319,12 +336,92 @@ void tst_FrontPanelHost::statusStripSwitchesWriteAndFollowProperties()
     QCOMPARE(qApp->property("-size").toString(), QStringLiteral("normal"));
 }
 
+void tst_FrontPanelHost::panelFitsEveryDisplayMode_data()
+{
+    QTest::addColumn<QString>("mode");
+    QTest::addColumn<int>("extraScreens");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("tabRows");
+    QTest::newRow("normal") << "normal" << 0 << QSize(800, 480) << 1;
+    QTest::newRow("normal, ten screens") << "normal" << 5 << QSize(800, 480) << 2;
+    QTest::newRow("portrait") << "small_portrait" << 0 << QSize(480, 800) << 2;
+    QTest::newRow("portrait, ten screens") << "small_portrait" << 5 << QSize(480, 800) << 4;
+}
+
+void tst_FrontPanelHost::panelFitsEveryDisplayMode()
+{
+    QFETCH(QString, mode);
+    QFETCH(int, extraScreens);
+    QFETCH(QSize, size);
+    QFETCH(int, tabRows);
+    for (int i = 0; i < extraScreens; ++i) {
+        window->screens()->addScreen(QStringLiteral("extra"), QStringLiteral("Commands"), new QWidget);
+    }
+    // Switched while running, as the strip's size key does.
+    AppProperties::setDisplayMode(mode);
+    settle();
+    QCOMPARE(window->size(), size);
+    const bool portrait = size.height() > size.width();
+    QCOMPARE(qobject_cast<QBoxLayout *>(commandsScreen()->layout())->direction(),
+             portrait ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    QCOMPARE(window->screens()->tabRowCount(), tabRows);
+    // Every key of the strip and every tab lies on the panel, wide enough for its text.
+    QList<QPushButton *> keys = window->findChildren<QPushButton *>(QStringLiteral("ScreenTab"));
+    keys << window->statusStrip()->findChildren<QPushButton *>();
+    for (QPushButton *key : qAsConst(keys)) {
+        const QRect onPanel(key->mapTo(window.data(), QPoint()), key->size());
+        QVERIFY2(window->rect().contains(onPanel) && key->width() >= key->sizeHint().width(), qPrintable(key->text()));
+    }
+}
+
+void tst_FrontPanelHost::progressFillStandsOutOfItsGroove()
+{
+    auto *progress = window->findChild<QWidget *>(QStringLiteral("sweepProgress"));
+    QVERIFY(progress);
+    engine->setValue(QStringLiteral("SweepProgress"), 50);
+    window->screens()->setCurrentIndex(window->screens()->indexOfScreenHolding(progress));
+    settle();
+    auto *bar = progress->findChild<QProgressBar *>();
+    const QImage image = bar->grab().toImage();
+    // Beside the percentage in the middle: filled at a quarter, empty at three quarters.
+    const int y = image.height() / 2;
+    const auto luminance = [](QRgb rgb) {
+        const auto linear = [](int c) {
+            const double v = c / 255.0;
+            return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(qRed(rgb)) + 0.7152 * linear(qGreen(rgb)) + 0.0722 * linear(qBlue(rgb));
+    };
+    const double fill = luminance(image.pixel(image.width() / 4, y));
+    const double groove = luminance(image.pixel(image.width() * 3 / 4, y));
+    QVERIFY2((qMax(fill, groove) + 0.05) / (qMin(fill, groove) + 0.05) >= 3.0,
+             qPrintable(QStringLiteral("fill %1, groove %2").arg(fill).arg(groove)));
+}
+
+void tst_FrontPanelHost::settingsFileShownOnOneLine()
+{
+    auto *label = window->findChild<QLabel *>(QStringLiteral("settingsFileLabel"));
+    auto *browser = window->findChild<SimpleFileBrowser *>();
+    QVERIFY(label && browser);
+    window->screens()->setCurrentIndex(window->screens()->indexOfScreenHolding(label));
+    settle();
+    // Below the settings folder the browser shows, the path from there; elsewhere, a long name is
+    // shortened to the label's width.
+    engine->setValue(QStringLiteral("SettingsFile"), QString(browser->rootPath() + QStringLiteral("/archive/bench-2025.cfg")));
+    QCOMPARE(label->text(), QStringLiteral("archive/bench-2025.cfg"));
+    const QString longName = QStringLiteral("/media/usb/%1.cfg").arg(QString(60, QLatin1Char('x')));
+    engine->setValue(QStringLiteral("SettingsFile"), longName);
+    QVERIFY(label->text().contains(QChar(0x2026)));
+    QVERIFY(label->text().endsWith(QLatin1String("x.cfg")));
+    QVERIFY(label->fontMetrics().horizontalAdvance(label->text()) <= label->contentsRect().width());
+}
+
 void tst_FrontPanelHost::scriptedSessionTapsAndRenders()
 {
     QTemporaryDir dir;
     QVERIFY(dir.isValid());
-    ScriptedSession session(window.data());
-    const QStringList images = session.renderScreens(QDir(dir.path()));
+    ScreenRunner session(window.data(), QDir(dir.path()));
+    const QStringList images = session.renderScreens();
     QCOMPARE(images.size(), window->screens()->count());
     QCOMPARE(QFileInfo(images.first()).fileName(), QStringLiteral("01-commands.png"));
     for (const QString &path : images) {

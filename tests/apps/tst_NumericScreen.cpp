@@ -8,6 +8,7 @@
 #include "MainWindow.h"
 #include "ScreenList.h"
 #include "SimulatedEngine.h"
+#include "StatusStrip.h"
 #include "WidgetNaming.h"
 
 #include "QKXNumeric.h"
@@ -120,19 +121,29 @@ void tst_NumericScreen::edits_data()
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<QString>("shown");
     QTest::addColumn<QStringList>("log");
+    // A value the engine holds to a limit is the one change the user did not type: the notice says so.
+    QTest::addColumn<QString>("notice");
 
     QTest::newRow("hex address") << "UnitAddress" << QStringList({"B", "E", "E", "F", "hexEnter"}) << QVariant(0xBEEF)
-                                 << "BEEF" << QStringList({"set UnitAddress = 48879", "lock released UnitAddress"});
+                                 << "BEEF" << QStringList({"set UnitAddress = 48879", "lock released UnitAddress"})
+                                 << "";
     QTest::newRow("level clamped") << "Level" << QStringList({"2", "5", "enter"}) << QVariant(10.0) << "10.0"
                                    << QStringList({"request Level = 25 clamped to 10", "set Level = 10",
-                                                   "lock released Level"});
+                                                   "lock released Level"})
+                                   << "Level (dBm) set to its upper limit";
     QTest::newRow("squelch typed without sign") << "Squelch" << QStringList({"clear", "8", "0", "enter"}) << QVariant(-80)
-                                                << "-80" << QStringList({"set Squelch = -80", "lock released Squelch"});
+                                                << "-80" << QStringList({"set Squelch = -80", "lock released Squelch"})
+                                                << "";
     QTest::newRow("squelch beyond limit") << "Squelch" << QStringList({"5", "enter"}) << QVariant(-60) << "-60"
                                           << QStringList({"request Squelch = -5 clamped to -60", "set Squelch = -60",
-                                                          "lock released Squelch"});
+                                                          "lock released Squelch"})
+                                          << "Squelch (dBm) set to its upper limit";
+    QTest::newRow("frequency below limit") << "Frequency" << QStringList({"5", "enter"}) << QVariant(9e3) << "9000"
+                                           << QStringList({"request Frequency = 5 clamped to 9000", "set Frequency = 9000",
+                                                           "lock released Frequency"})
+                                           << "Frequency (Hz) set to its lower limit";
     QTest::newRow("cancel") << "Channel" << QStringList({"5", "cancel"}) << QVariant(16) << "16"
-                            << QStringList({"lock released Channel"});
+                            << QStringList({"lock released Channel"}) << "";
 }
 
 void tst_NumericScreen::edits()
@@ -142,6 +153,7 @@ void tst_NumericScreen::edits()
     QFETCH(QVariant, value);
     QFETCH(QString, shown);
     QFETCH(QStringList, log);
+    QFETCH(QString, notice);
 
     QKXNumeric *numeric = field(attribute);
     QVERIFY(numeric);
@@ -159,6 +171,7 @@ void tst_NumericScreen::edits()
     QCOMPARE(engine->value(attribute), value);
     QCOMPARE(numeric->findChild<QLineEdit *>()->text(), shown);
     QVERIFY(!pad->isVisible());
+    QCOMPARE(window->statusStrip()->notice(), notice);
 }
 
 QTEST_MAIN(tst_NumericScreen)

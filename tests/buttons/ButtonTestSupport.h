@@ -78,8 +78,8 @@ inline void drag(QWidget *key)
 }
 
 // Answers the next modal prompt while its exec() runs: logs "prompt <title>|<text>|<answer keys>",
-// then presses the named key with real mouse events ("<close key>": the title bar's close key), or
-// runs the function given instead. What the dialog looked like stays behind in the fields.
+// then presses the named key with real mouse events, or runs the function given instead. What the
+// dialog looked like stays behind in the fields.
 class PromptAnswerer
 {
 public:
@@ -124,7 +124,7 @@ private:
         textWraps = seenText && seenText->wordWrap();
         QPushButton *closeKey = dialog->findChild<QPushButton *>(QStringLiteral("ContainerClose"));
         closeKeyShown = closeKey && closeKey->isVisible();
-        QPushButton *target = answer == QLatin1String("<close key>") ? closeKey : nullptr;
+        QPushButton *target = nullptr;
         QStringList keys;
         for (QPushButton *key : dialog->findChildren<QPushButton *>(QStringLiteral("DialogButton"))) {
             keys << key->text();

@@ -69,10 +69,11 @@ void tst_QKXConfirmationToggleButton::promptRoads_data()
     QTest::newRow("3: off, No") << 3 << "off" << "No" << QStringList{Prompt} << "";
     QTest::newRow("3: locked") << 3 << "locked" << "Yes" << QStringList() << "";
     QTest::newRow("3: gui locked") << 3 << "gui locked" << "Yes" << QStringList{"gui locked"} << "";
-    QTest::newRow("negative: a notice") << -1 << "off" << "Yes" << QStringList{Prompt} << "";
-    QTest::newRow("unknown style asks both ways") << 9 << "on" << "Yes" << QStringList{Prompt} + switched(false)
-        << "UserInterface - QKXConfirmationToggleButtonEventFilter::mouseReleaseEventFilter : PromptStyle 9 is none of 0 to 3; "
-           "confirming both ways.";
+    // Only 1 to 3 name a prompt for a switch, and only 0 switches without one.
+    const QString none = QStringLiteral("UserInterface - QKXConfirmationToggleButtonEventFilter::mouseReleaseEventFilter : "
+                                        "PromptStyle %1 is none of 0 to 3; the tap does nothing.");
+    QTest::newRow("negative") << -1 << "off" << "Yes" << QStringList() << none.arg(-1);
+    QTest::newRow("above 3") << 9 << "on" << "Yes" << QStringList() << none.arg(9);
 }
 
 void tst_QKXConfirmationToggleButton::promptRoads()

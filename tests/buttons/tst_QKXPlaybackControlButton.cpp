@@ -14,7 +14,8 @@ namespace {
 // The symbol overlays, exactly as hosts' sheets and logs know them.
 const QString PlayOverlay = QStringLiteral("    QPushButton {        image: url(:/images/SymbolTriangleRight.svg);     }");
 const QString StopOverlay = QStringLiteral("    QPushButton {        image: url(:/images/SymbolWhiteSquare.svg);     }");
-const QString UnknownLine = QStringLiteral("UserInterface - KXPlaybackControlButtonPrivate::updateStyle : Unknown button style.");
+// Spelt as hosts' log filters know it.
+const QString UnknownLine = QStringLiteral("Userinterface - KXPlaybackControlButtonPrivate::updateStyle : Unknown button style.");
 
 QImage face(QKXPlaybackControlButton *button) { return button->findChild<QPushButton *>()->grab().toImage(); }
 
@@ -36,16 +37,17 @@ void tst_QKXPlaybackControlButton::buttonType_data()
     QTest::addColumn<QVariant>("write");
     QTest::addColumn<bool>("accepted");
     QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("overlay");
+    QTest::addColumn<QString>("look");   // "" (no symbol), "play", "stop", or "none" (no sheet at all)
     QTest::addColumn<QStringList>("lines");
 
-    QTest::newRow("play by int") << QVariant(1) << true << 1 << PlayOverlay << QStringList();
-    QTest::newRow("play by name") << QVariant(QStringLiteral("play")) << true << 1 << PlayOverlay << QStringList();
-    QTest::newRow("none by name") << QVariant(QStringLiteral("none")) << true << 0 << QString() << QStringList();
-    // An unknown value keeps the symbol; names outside the enumeration never reach the button.
-    QTest::newRow("3") << QVariant(3) << true << 2 << StopOverlay << QStringList{UnknownLine};
-    QTest::newRow("-1") << QVariant(-1) << true << 2 << StopOverlay << QStringList{UnknownLine};
-    QTest::newRow("unknown name") << QVariant(QStringLiteral("pause")) << false << 2 << StopOverlay << QStringList();
+    QTest::newRow("play by int") << QVariant(1) << true << 1 << "play" << QStringList();
+    QTest::newRow("play by name") << QVariant(QStringLiteral("play")) << true << 1 << "play" << QStringList();
+    QTest::newRow("none by name") << QVariant(QStringLiteral("none")) << true << 0 << "" << QStringList();
+    // A number outside the enumeration is kept, and the key loses its whole look with the line hosts
+    // filter on; names outside the enumeration never reach the button.
+    QTest::newRow("3") << QVariant(3) << true << 3 << "none" << QStringList{UnknownLine};
+    QTest::newRow("-1") << QVariant(-1) << true << -1 << "none" << QStringList{UnknownLine};
+    QTest::newRow("unknown name") << QVariant(QStringLiteral("pause")) << false << 2 << "stop" << QStringList();
 }
 
 void tst_QKXPlaybackControlButton::buttonType()
@@ -53,19 +55,24 @@ void tst_QKXPlaybackControlButton::buttonType()
     QFETCH(QVariant, write);
     QFETCH(bool, accepted);
     QFETCH(int, type);
-    QFETCH(QString, overlay);
+    QFETCH(QString, look);
     QFETCH(QStringList, lines);
     DebugLines debug;
     const QString base = QKXPlaybackControlButton().styleSheet();
+    const QString sheet = look == QLatin1String("none") ? QString()
+        : base + (look == QLatin1String("play") ? PlayOverlay : look == QLatin1String("stop") ? StopOverlay : QString());
     QKXPlaybackControlButton b;
     b.setButtonType(QKXPlaybackControlButton::stop);
     QCOMPARE(b.setProperty("ButtonType", write), accepted);
     QCOMPARE(int(b.buttonType()), type);
     // The overlay follows the base sheet byte for byte, in both sizes.
-    QCOMPARE(b.styleSheet(), base + overlay);
+    QCOMPARE(b.styleSheet(), sheet);
     b.changeSize(QStringLiteral("Max"));
-    QCOMPARE(b.styleSheet(), base + overlay);
+    QCOMPARE(b.styleSheet(), sheet);
     QCOMPARE(DebugLines::lines(), lines);
+    // A known type brings the look back.
+    b.setButtonType(QKXPlaybackControlButton::play);
+    QCOMPARE(b.styleSheet(), base + PlayOverlay);
 }
 
 void tst_QKXPlaybackControlButton::symbolsArePainted()
@@ -82,7 +89,9 @@ void tst_QKXPlaybackControlButton::symbolsArePainted()
     row->addStretch(1);
     QVERIFY(exposed(screen));
 
-    // The whole key is on screen, 40 inside the 2-pixel border; the symbols are white on the gradient.
+    // The key's own hints are its 40 x 40 face; laid out, it shows the 2-pixel border around it too.
+    QCOMPARE(b[0]->minimumSize(), QSize(40, 40));
+    QCOMPARE(b[0]->minimumSizeHint(), QSize(40, 40));
     const QImage plain = face(b[0]), triangle = face(b[1]), square = face(b[2]);
     QCOMPARE(plain.size(), QSize(44, 44));
     QVERIFY(square != triangle);

@@ -14,26 +14,49 @@
 
 namespace kxtest {
 
-// Collects the library's "UserInterface - " lines while it lives; everything else goes on to the
+// Collects the library's diagnostic lines while it lives: debug and warning messages that begin
+// "UserInterface - ", or "Userinterface - " as a few lines hosts filter on are spelt. Every other
+// warning (Qt's own too) is kept in warnings(). Everything but the library's lines goes on to the
 // handler that was there before.
 class DebugLines
 {
 public:
-    DebugLines() { previous() = qInstallMessageHandler(&DebugLines::handle); lines().clear(); }
+    enum Scope { LibraryLines, AllDebugLines };   // AllDebugLines: also lines without the prefix
+
+    explicit DebugLines(Scope scope = LibraryLines)
+    {
+        all() = scope == AllDebugLines;
+        previous() = qInstallMessageHandler(&DebugLines::handle);
+        lines().clear();
+        warnings().clear();
+    }
     ~DebugLines() { qInstallMessageHandler(previous()); }
     static QStringList &lines() { static QStringList all; return all; }
+    static QStringList &warnings() { static QStringList all; return all; }
 
 private:
     static QtMessageHandler &previous() { static QtMessageHandler handler = nullptr; return handler; }
+    static bool &all() { static bool everything = false; return everything; }
+    static bool isLibraryLine(QtMsgType type, const QString &msg)
+    {
+        return (type == QtDebugMsg || type == QtWarningMsg)
+            && (msg.startsWith(QLatin1String("UserInterface - ")) || msg.startsWith(QLatin1String("Userinterface - ")));
+    }
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &msg)
     {
-        if (type == QtDebugMsg && msg.startsWith(QLatin1String("UserInterface - "))) {
+        if (type == QtDebugMsg && all()) {
+            lines() << msg;
+            return;
+        }
+        if (isLibraryLine(type, msg)) {
             QString line = msg;
             while (line.endsWith(QLatin1Char(' ')))   // a trailing blank is the stream's business
                 line.chop(1);
             lines() << line;
             return;
         }
+        if (type == QtWarningMsg || type == QtCriticalMsg)
+            warnings() << msg;
         if (previous())
             previous()(type, context, msg);
     }

@@ -63,7 +63,9 @@ struct PadScreen
         filter = installed;
         field->installEventFilter(filter);
         lockOwner.attach(filter);
-        QObject::connect(filter, &QKXEventFilterBase::editStart, pad, &QKXNumpad::registerWidget);
+        // Through the host's own receiver: the pad cuts its connections with a filter after each edit.
+        QObject::connect(filter, &QKXEventFilterBase::editStart, &lockOwner,
+                         [this](QObject *f, QWidget *w) { pad->registerWidget(f, w); });
     }
     bool show()
     {

@@ -13,6 +13,19 @@ using kxtest::Screen;
 
 namespace {
 
+// The text family's side of a dotted-address edit, as far as the pad talks to it.
+class AddressFilter : public QObject
+{
+    Q_OBJECT
+public:
+    explicit AddressFilter(QObject *parent) : QObject(parent) { setProperty("DataType", QStringLiteral("TextString")); }
+public Q_SLOTS:
+    void cancel() { emit editEnd(); }
+Q_SIGNALS:
+    void editEnd();
+    void submit(QString text);
+};
+
 QString enabledDigits(QKXNumpad &pad)
 {
     QString enabled;
@@ -38,7 +51,9 @@ private slots:
     void commit_data();
     void commit();
     void reRegistrationCancelsPrevious();
+    void unknownDataType_data();
     void unknownDataType();
+    void dottedAddress();
     void placement_data();
     void placement();
 };
@@ -59,6 +74,14 @@ void tst_QKXNumpad::keys()
     auto *unit = qobject_cast<QKXRichTextPushButton *>(pad.unitButton(3));
     QVERIFY(unit && !pad.unitButton(4));
     QCOMPARE(unit->objectName(), QStringLiteral("unit"));
+
+    // A language change renames the control keys and the decimal page's Enter only.
+    kxtest::WordTranslator german("Enter", "Eingabe");
+    qApp->installTranslator(&german);
+    pad.retranslate();
+    qApp->removeTranslator(&german);
+    QCOMPARE(pad.button(QStringLiteral("enter"))->text() + '|' + pad.button(QStringLiteral("hexEnter"))->text(),
+             QStringLiteral("Eingabe|Enter"));
 }
 
 void tst_QKXNumpad::styleSheet()
@@ -256,6 +279,7 @@ void tst_QKXNumpad::reRegistrationCancelsPrevious()
     auto *otherFilter = new QKXNumericEventFilter(other, QStringLiteral("Int"), nullptr);
     other->installEventFilter(otherFilter);
     kxtest::logFilter(otherFilter, second);
+    // Straight from the filter to the pad, which lasts one edit only.
     QObject::connect(otherFilter, &QKXEventFilterBase::editStart, screen.pad, &QKXNumpad::registerWidget);
     QVERIFY(screen.show());
     QVERIFY(screen.tapAndWaitForPad());
@@ -272,26 +296,67 @@ void tst_QKXNumpad::reRegistrationCancelsPrevious()
     screen.press(QStringLiteral("enter"));
     QCOMPARE(second, QStringList({"editStart", "int 15", "editEnd", "release"}));
     QCOMPARE(first, QStringList({"int 11", "editEnd", "release"}));
+    // The pad let go of every connection with that filter when its edit ended.
+    otherFilter->forceClick();
+    QVERIFY(!screen.pad->isVisible() && !screen.pad->registeredWidget());
+}
+
+void tst_QKXNumpad::unknownDataType_data()
+{
+    QTest::addColumn<QString>("dataType");
+    QTest::newRow("unknown") << "Bogus";
+    QTest::newRow("empty") << "";
+    QTest::newRow("case matters") << "int";
 }
 
 void tst_QKXNumpad::unknownDataType()
 {
-    Screen screen(QStringLiteral("Bogus"));
+    QFETCH(QString, dataType);
+    Screen screen(dataType);
     QStringList &seen = screen.road;
     QVERIFY(screen.show());
     kxtest::DebugLines debug;
     QVERIFY(screen.tapAndWaitForPad());
 
-    QCOMPARE(debug.lines().size(), 1);
-    const QString line = debug.lines().first();
-    QVERIFY2(line.startsWith(QLatin1String("UserInterface - QKXNumpad attempting to register unknown data type: "
-                                           "\"Bogus\" Widget: QKXNumeric(")) && line.endsWith(QLatin1String(", name=\"Channel\")")),
-             qPrintable(line));
+    // The widget as the debug stream prints it (its class, address and name).
+    QString widget;
+    QDebug(&widget) << static_cast<QWidget *>(screen.field);
+    QCOMPARE(debug.lines(), QStringList{QStringLiteral("UserInterface - QKXNumpad attempting to register unknown data type: "
+                                                       "\"%1\" Widget: %2").arg(dataType, widget.trimmed())});
 
+    // The pad shows, but a commit only ends the edit.
     seen.clear();
     screen.press(QStringLiteral("4"));
     screen.press(QStringLiteral("enter"));
     QCOMPARE(seen, QStringList({"editEnd", "release"}));
+}
+
+void tst_QKXNumpad::dottedAddress()
+{
+    QWidget window;
+    window.resize(800, 480);
+    auto *field = new QWidget(&window);
+    field->setGeometry(40, 40, 200, 60);
+    auto *entry = new QLineEdit(field);
+    auto *filter = new AddressFilter(field);
+    auto *pad = new QKXNumpad(&window);
+    QStringList road;
+    connect(filter, &AddressFilter::submit, [&road](const QString &text) { road << text; });
+    connect(filter, &AddressFilter::editEnd, [&road] { road << QStringLiteral("editEnd"); });
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    pad->registerWidget(filter, field);
+    QVERIFY(pad->isVisible() && !pad->rotateButton()->isVisible());
+    QVERIFY(pad->button(QStringLiteral("dot"))->isEnabled() && !pad->button(QStringLiteral("plmin"))->isEnabled());
+    // Three dots at most; each key types at the cursor.
+    for (const char *key : {"1", "9", "2", "dot", "1", "6", "8", "dot", "1", "dot", "dot", "5"})
+        QTest::mouseClick(pad->button(QLatin1String(key)), Qt::LeftButton);
+    QCOMPARE(entry->text(), QStringLiteral("192.168.1.5"));
+    QCOMPARE(pad->display()->text(), entry->text());
+    QTest::mouseClick(pad->button(QStringLiteral("enter")), Qt::LeftButton);
+    QCOMPARE(road, QStringList({"192.168.1.5", "editEnd"}));
+    QVERIFY(!pad->isVisible());
 }
 
 void tst_QKXNumpad::placement_data()
@@ -305,7 +370,8 @@ void tst_QKXNumpad::placement_data()
     QTest::newRow("just fits right") << QSize(800, 600) << QRect(0, 0, 534, 60) << 10 << QPoint(539, 65);
     QTest::newRow("touching right edge flips") << QSize(800, 600) << QRect(300, 0, 235, 60) << 10 << QPoint(35, 65);
     QTest::newRow("no room either side") << QSize(800, 480) << QRect(100, 40, 650, 60) << 10 << QPoint(540, 80);
-    QTest::newRow("window smaller than pad") << QSize(200, 300) << QRect(10, 10, 50, 30) << 10 << QPoint(0, 0);
+    // Into the bottom-right corner even then: the pad overhangs the top and left edges.
+    QTest::newRow("window smaller than pad") << QSize(200, 300) << QRect(10, 10, 50, 30) << 10 << QPoint(-60, -100);
 }
 
 void tst_QKXNumpad::placement()

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 
 #include "GlobalImpl.h"
+#include "SystemModule.h"
 #include "QKXComboListFrame.h"
 #include "QKXDoubleValueList.h"
 #include "QKXListDoubleValueObj.h"
@@ -71,8 +72,9 @@ void tst_QKXListDoubleValueObj::init()
     window->resize(800, 480);
     window->setObjectName(QStringLiteral("MainWindow"));
     GlobalImpl::getInstance()->setDesktop(window.data());
+    GlobalImpl::getInstance()->systemModule()->registerSystemScreen(QStringLiteral("MainWindow"), window.data());
     field = new QKXListDoubleValueObj(window.data());
-    field->setAttributeName(QStringLiteral("Bandwidth"));
+    field->setObjectName(QStringLiteral("Bandwidth"));
     field->setGeometry(40, 40, 200, 60);
     field->setBaseUnit(hertz());
     field->setUnitListString(frequencyUnits());
@@ -87,6 +89,7 @@ void tst_QKXListDoubleValueObj::init()
 
 void tst_QKXListDoubleValueObj::cleanup()
 {
+    GlobalImpl::getInstance()->systemModule()->unregisterSystemScreen(QStringLiteral("MainWindow"));
     window.reset();
 }
 
@@ -112,12 +115,14 @@ void tst_QKXListDoubleValueObj::tapSubmitsTheValueWithItsUnit()
     QVERIFY(!popup->filter());
     QVERIFY(QTest::qWaitFor([&] { return !filter->isEditing(); }));
 
-    // A tap beside the column gives the edit back: the saved value, in the base unit.
+    // A tap beside the column means nothing: the popup stays with its edit until the field goes.
     road.clear();
     field->setValue(3000.0);
     filter->lockAcquired(field);
     QVERIFY(QTest::qWaitFor([&] { return popup->isVisible(); }));
     QTest::mouseClick(popup, Qt::LeftButton, {}, QPoint(700, 400));
+    QVERIFY(road.isEmpty() && popup->isVisible() && filter->isEditing());
+    field->hide();
     QCOMPARE(road, QStringList({"submit 3000 " + hertz(), "editEnd"}));
     QVERIFY(!popup->isVisible());
 }
@@ -129,7 +134,19 @@ void tst_QKXListDoubleValueObj::buttonsAreReusedAndOnlyListsRebuild()
     popup->registerWidget(filter, field);
     QCOMPARE(shownCaptions(*popup), QStringList({"1 kHz/cbPushButton", "3 kHz/cbPushButton",
                                                  "1.23457e-05 Hz/lastPushButton"}));
-    QCOMPARE(popup->listFrame()->geometry().topLeft(), QPoint(field->x() + 1, field->geometry().bottom() + 1));
+    // Under the field, its own x on top of its corner in the main window, 10 pixels back.
+    QCOMPARE(popup->listFrame()->geometry().topLeft(), QPoint(40 + 40 - 10, 40 + 60));
+    auto *panel = new QWidget(window.data());
+    panel->setGeometry(100, 20, 400, 200);
+    field->setParent(panel);
+    field->setGeometry(30, 10, 200, 60);
+    field->show();
+    popup->unregister();
+    popup->registerWidget(filter, field);
+    QCOMPARE(popup->listFrame()->geometry().topLeft(), QPoint(30 + 130 - 10, 30 + 60));
+    field->setParent(window.data());
+    field->setGeometry(40, 40, 200, 60);
+    field->show();
     QAbstractButton *first = popup->buttonGroup()->button(0);
     popup->unregister();
 
@@ -157,7 +174,7 @@ void tst_QKXListDoubleValueObj::buttonsAreReusedAndOnlyListsRebuild()
 
 void tst_QKXListDoubleValueObj::badRecords()
 {
-    // A good record is stored quietly, a bad one reported and left out.
+    // A good record is stored quietly, a bad one reported and ignored.
     DebugLines lines;
     QSignalSpy values(field, QOverload<double>::of(&QKXNumeric::valueChanged));
     QSignalSpy units(field, QOverload<int>::of(&QKXNumericValueObj::unitChanged));
@@ -175,17 +192,21 @@ void tst_QKXListDoubleValueObj::badRecords()
     QCOMPARE(lines.lines().first(), QStringLiteral("UserInterface - QKXListDoubleValueObj \"Bandwidth\" metadata is "
                                                    "not [type, [[value, units], ...]] - previous record kept"));
 
+    // Only entries too short to hold a value and a units string are left out; a text reads as 0 and
+    // a malformed units string as far as it goes.
     lines.lines().clear();
     field->setMetaData(record(QStringLiteral("List"), {entry(1, kilohertz()), QVariant(QVariantList{QStringLiteral("wide"), hertz()}),
                                                        QVariant(QVariantList{3.0}), entry(5, QStringLiteral("0,3,1:1")),
                                                        QVariant(7), entry(10, kilohertz())}));
     popup->registerWidget(filter, field);
-    QCOMPARE(shownCaptions(*popup), QStringList({"1 kHz/cbPushButton", "10 kHz/lastPushButton"}));
-    QCOMPARE(lines.lines().size(), 4);
-    QCOMPARE(lines.lines().first(), QStringLiteral("UserInterface - QKXDoubleValueList: entry 1 of \"Bandwidth\" is not "
-                                                   "[value, units string] - left out"));
+    QCOMPARE(shownCaptions(*popup), QStringList({"1 kHz/cbPushButton", "0 Hz/cbPushButton", "5 kHz/cbPushButton",
+                                                 "10 kHz/lastPushButton"}));
+    const QString leftOut = QStringLiteral("UserInterface - QKXDoubleValueList: entry %1 of \"Bandwidth\" is not "
+                                           "[value, units string] - left out");
+    QCOMPARE(lines.lines(), QStringList({leftOut.arg(2), leftOut.arg(4),
+                                         "UserInterface - Malformed Units property string (Base Unit Portion). - \"0,3,1:1\""}));
     QSignalSpy submits(filter, QOverload<double, QString>::of(&QKXNumericValueObjEventFilter::submit));
-    popup->translateButtonId(1);
+    popup->translateButtonId(3);
     QCOMPARE(submits.at(0).at(0).toDouble(), 10.0);
 }
 

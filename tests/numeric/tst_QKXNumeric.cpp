@@ -1,13 +1,16 @@
 #include <QtTest>
 
+#include <QBuffer>
 #include <QLineEdit>
+#include <QUiLoader>
 
 #include "CSS.h"
 #include "QKXNumeric.h"
+#include "QKXNumericEventFilter.h"
+#include "QKXNumericValueObjEventFilter.h"
 
 #include "../common/NumericTestSupport.h"
 
-#include <limits>
 
 // Both valueChanged forms, in emission order.
 static void logValues(QKXNumeric &w, QStringList &log)
@@ -40,6 +43,8 @@ private slots:
     void precision();
     void styles_data();
     void styles();
+    void badInput_data();
+    void badInput();
 };
 
 void tst_QKXNumeric::rendering_data()
@@ -51,20 +56,16 @@ void tst_QKXNumeric::rendering_data()
     QTest::addColumn<QStringList>("emitted");
     QTest::addColumn<QString>("debugLine");
 
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    const double inf = std::numeric_limits<double>::infinity();
-    const QString kept = QStringLiteral("UserInterface - QKXNumeric \"Span\" cannot show %1 in base %2 - display kept");
+    const QString kept = QStringLiteral("UserInterface - QKXNumeric \"span\" cannot show %1 in base %2 - display kept");
 
     QTest::newRow("dec rounds") << 10 << 1 << 1.26 << "1.3" << QStringList({"double 1.26", "int 1"}) << "";
     QTest::newRow("dec beyond int") << 10 << 0 << -3e9 << "-3000000000"
                                     << QStringList({"double -3000000000", "int -2147483648"}) << "";
-    QTest::newRow("dec inf") << 10 << 0 << inf << "inf" << QStringList({"double inf", "int 2147483647"}) << "";
     QTest::newRow("hex int min") << 16 << 0 << -2147483648.0 << "-80000000"
                                  << QStringList({"double -2147483648", "int -2147483648"}) << "";
     QTest::newRow("oct") << 8 << 0 << -9.99 << "-11" << QStringList({"double -9.99", "int -9"}) << "";
     QTest::newRow("hex beyond int") << 16 << 0 << 4294967296.0 << "7"
                                     << QStringList({"double 4294967296", "int 2147483647"}) << kept.arg("4.29497e+09", "16");
-    QTest::newRow("hex nan") << 16 << 0 << nan << "7" << QStringList({"double nan", "int 0"}) << kept.arg("nan", "16");
 }
 
 void tst_QKXNumeric::rendering()
@@ -77,7 +78,7 @@ void tst_QKXNumeric::rendering()
     QFETCH(QString, debugLine);
 
     QKXNumeric w;
-    w.setAttributeName(QStringLiteral("Span"));
+    w.setObjectName(QStringLiteral("span"));
     QVERIFY(w.setProperty("Base", base));
     w.setValue(7);
     w.setPrecision(precision);
@@ -106,9 +107,15 @@ void tst_QKXNumeric::precision_data()
 
     QTest::newRow("idle re-renders") << false << 3 << QStringList({"double 2.5", "int 2", "precision 3"}) << "2.500" << "";
     QTest::newRow("editing keeps the text") << true << 3 << QStringList({"precision 3"}) << "2.5" << "";
+    // The text is what QString::number() gives for any precision, up to a double's last decimal.
     QTest::newRow("negative") << false << -2 << QStringList({"double 2.5", "int 2", "precision -2"})
-                              << QString::number(2.5, 'f', 0)
-                              << "UserInterface - QKXNumeric \"Level\" precision -2 out of range, showing 0 decimals";
+                              << QString::number(2.5, 'f', -2) << "";
+    QTest::newRow("beyond 64") << false << 70 << QStringList({"double 2.5", "int 2", "precision 70"})
+                               << "2.5" + QString(69, QLatin1Char('0')) << "";
+    QTest::newRow("beyond a double's decimals") << false << 2000000000
+                               << QStringList({"double 2.5", "int 2", "precision 2000000000"})
+                               << "2.5" + QString(1073, QLatin1Char('0'))
+                               << "UserInterface - QKXNumeric \"level\" precision 2000000000 out of range, showing 1074 decimals";
 }
 
 void tst_QKXNumeric::precision()
@@ -120,7 +127,7 @@ void tst_QKXNumeric::precision()
     QFETCH(QString, debugLine);
 
     QKXNumeric w;
-    w.setAttributeName(QStringLiteral("Level"));
+    w.setObjectName(QStringLiteral("level"));
     w.setPrecision(1);
     w.setValue(2.5);
     w.setProperty("Editing", editing);
@@ -149,7 +156,6 @@ void tst_QKXNumeric::styles_data()
                                         "background-position: top right;    background-repeat: no-repeat;}");
     const QString readOnly = QStringLiteral("QLineEdit:disabled {    border-color: ") + CSS::border() + QStringLiteral(";}");
     QTest::newRow("min") << false << false << "Min" << small;
-    QTest::newRow("min locked") << true << false << "Min" << small + lock;
     QTest::newRow("max locked and read-only") << true << true << "Max" << large + lock + readOnly;
 }
 
@@ -166,6 +172,94 @@ void tst_QKXNumeric::styles()
     w.setReadOnly(readOnly);
     w.setLocked(locked);
     QCOMPARE(w.styleSheet(), expected);
+}
+
+void tst_QKXNumeric::badInput_data()
+{
+    QTest::addColumn<QString>("widget");
+    QTest::addColumn<QString>("form");    // the field's properties in the form
+    QTest::addColumn<QString>("input");   // what comes after the engine's 255
+    QTest::addColumn<QStringList>("lines");   // each after "UserInterface - <widget> \"field\" "
+    QTest::addColumn<QString>("shown");   // before and after the input
+
+    const QString hex = QStringLiteral("<property name=\"Base\"><enum>QKXNumeric::HEX</enum></property>");
+    const QString inverted = QStringLiteral("<property name=\"LowerLimit\"><double>10</double></property>"
+                                            "<property name=\"UpperLimit\"><double>-5</double></property>");
+    for (const char *widget : {"QKXNumeric", "QKXNumericValueObj", "QKXListDoubleValueObj"}) {
+        const auto row = [widget](const char *name) { return &(QTest::addRow("%s, %s", widget, name) << widget); };
+        *row("nan") << hex << "nan" << QStringList{"got nan - display and value kept"} << "FF";
+        *row("inf") << hex << "inf" << QStringList{"got inf - display and value kept"} << "FF";
+        *row("-inf") << QString() << "-inf" << QStringList{"got -inf - display and value kept"} << "255";
+        *row("Base 7") << hex << "Base 7" << QStringList{"has no number base 7 - base 16 kept"} << "FF";
+        // The form builder hands an enumerator it does not know over as -1.
+        *row("unknown Base name") << "<property name=\"Base\"><enum>QKXNumeric::HEXA</enum></property>" << ""
+                                  << QStringList{"has no number base -1 - base 10 kept"} << "255";
+        // The form's setters pass the pair on silently; the edit that starts with it reports it.
+        *row("edit with inverted limits") << inverted << "edit"
+                                          << QStringList{"edit starts with limits no value lies between: "
+                                                         "LowerLimit 10 UpperLimit -5"} << "255";
+    }
+    // No level for 0 W: the field shows dBm, from the start value on.
+    QTest::newRow("QKXNumericValueObj, 0 W in dBm")
+        << "QKXNumericValueObj"
+        << "<property name=\"Precision\"><number>1</number></property>"
+           "<property name=\"BaseUnit\"><string>0,0,6:1;0:0;0:0;0:0;0:0</string></property>"
+           "<property name=\"DefaultUnit\"><number>1</number></property>"
+           "<property name=\"Units\"><string>0,0,6:1;0:0;0:0;0:0;0:0|0,0,14:1;0:0;0:0;0:0;0:0</string></property>"
+        << "0" << QStringList{"has no number for 0 in \"dBm\" - display emptied",
+                              "got 0 which shows as -inf - display and value kept"} << "54.1";
+}
+
+void tst_QKXNumeric::badInput()
+{
+    QFETCH(QString, widget);
+    QFETCH(QString, form);
+    QFETCH(QString, input);
+    QFETCH(QStringList, lines);
+    QFETCH(QString, shown);
+
+    QByteArray ui = QStringLiteral("<ui version=\"4.0\"><class>Screen</class><widget class=\"QWidget\" name=\"Screen\">"
+                                   "<widget class=\"%1\" name=\"field\">%2</widget></widget></ui>")
+                        .arg(widget, form).toUtf8();
+    QBuffer buffer(&ui);
+    QVERIFY(buffer.open(QIODevice::ReadOnly));
+    QUiLoader loader;
+    loader.clearPluginPaths();
+    loader.addPluginPath(qEnvironmentVariable("KX_BUILD_LIB_DIR"));
+    kxtest::DebugLines debug;
+    QScopedPointer<QWidget> screen(loader.load(&buffer));
+    QVERIFY2(screen, qPrintable(loader.errorString()));
+    auto *field = screen->findChild<QKXNumeric *>(QStringLiteral("field"));
+    QVERIFY(field);
+    QLineEdit *display = field->findChild<QLineEdit *>();
+    const QVariant base = field->property("Base");
+    field->setValue(255.0);
+    QCOMPARE(display->text(), shown);
+
+    QSignalSpy changed(field, QOverload<double>::of(&QKXNumeric::valueChanged));
+    if (input == QLatin1String("Base 7")) {
+        field->setProperty("Base", 7);
+    } else if (input == QLatin1String("edit")) {
+        QKXEditStateFilter *filter = widget == QLatin1String("QKXNumeric")
+            ? static_cast<QKXEditStateFilter *>(new QKXNumericEventFilter(field, QStringLiteral("Double"), nullptr))
+            : new QKXNumericValueObjEventFilter(field, QStringLiteral("ValueDouble"), nullptr, nullptr);
+        QSignalSpy idle(filter, &QKXEventFilterBase::attemptSetLock);
+        field->installEventFilter(filter);
+        QTRY_COMPARE(idle.count(), 1);   // the machine is running: its idle state let go of the lock
+        filter->lockAcquired(field);
+        QTRY_VERIFY(filter->isEditing());
+    } else if (!input.isEmpty()) {
+        field->setValue(input.toDouble());
+    }
+    for (QString &line : lines)
+        line.prepend(QStringLiteral("UserInterface - %1 \"field\" ").arg(widget));
+    // The form loader sets some properties twice, and each setting reports once.
+    debug.lines().removeDuplicates();
+    QCOMPARE(debug.lines(), lines);
+    QCOMPARE(display->text(), shown);
+    QCOMPARE(field->value(), 255.0);
+    QCOMPARE(field->property("Base"), base);
+    QCOMPARE(changed.count(), 0);
 }
 
 QTEST_MAIN(tst_QKXNumeric)

@@ -22,7 +22,7 @@ struct FrequencyField
 {
     FrequencyField()
     {
-        field.setAttributeName(QStringLiteral("Frequency"));
+        field.setObjectName(QStringLiteral("Frequency"));
         field.setPrecision(1);
         field.setBaseUnit(hertz());
         field.setDefaultUnit(1);
@@ -72,6 +72,8 @@ private slots:
     void unitsConvertAndSignalInOrder();
     void newUnitWithTheValueRebuildsTheList();
     void badUnitData();
+    void malformedUnitFromTheEngine_data();
+    void malformedUnitFromTheEngine();
     void looksWithAndWithoutUnit();
     void filterHideAndUnitTaps();
 };
@@ -153,6 +155,7 @@ void tst_QKXNumericValueObj::newUnitWithTheValueRebuildsTheList()
     DebugLines lines;
     const QString mixed = QStringList{kilohertz(), seconds(), megahertz()}.join('|');
     plain.setBaseUnit(hertz());
+    QCOMPARE(plain.currentUnit(), neutralUnits());   // shown as before until a unit is selected
     plain.setGroupUnits(QKXNumericValueObj::Convertable);
     plain.setUnitListString(mixed);
     QCOMPARE(offeredTexts(plain), QStringList({"0 kHz", "2 MHz"}));
@@ -192,17 +195,6 @@ void tst_QKXNumericValueObj::badUnitData()
     QCOMPARE(lines.lines(), QStringList({"UserInterface - QKXNumericValueObj \"Frequency\" no unit of its list "
                                          "converts to \"dBm\" - only the base unit is offered"}));
 
-    // Text that is no units string: reported, the display and the value stay.
-    lines.lines().clear();
-    QSignalSpy values(&f.field, QOverload<double, QString>::of(&QKXNumericValueObj::valueChanged));
-    f.field.setValue(7.0, QStringLiteral("0,0,1:1;0:0"));
-    f.field.setValue(7, QString());
-    QCOMPARE(values.count(), 0);
-    QCOMPARE(f.field.value(), -30.0);
-    QCOMPARE(f.display->text(), QStringLiteral("-30.0"));
-    QCOMPARE(lines.lines().size(), 2);
-    QVERIFY(lines.lines().first().startsWith("UserInterface - QKXNumericValueObj \"Frequency\" got 7 in "));
-
     // A unit the list does not offer is refused; the selector stays on the unit in use.
     f.field.setValue(1500.0, hertz());
     lines.lines().clear();
@@ -212,6 +204,42 @@ void tst_QKXNumericValueObj::badUnitData()
     QCOMPARE(f.selector->currentIndex(), 1);
     QCOMPARE(f.field.currentUnitName(), QStringLiteral("kHz"));
     QCOMPARE(lines.lines().first(), QStringLiteral("UserInterface - QKXNumericValueObj \"Frequency\" offers no unit 7 - unit kept"));
+    // -1, the base unit itself, is always a unit.
+    f.field.setUnitIndex(-1);
+    QCOMPARE(f.field.unitIndex(), -1);
+    QCOMPARE(f.display->text(), QStringLiteral("1500.0"));
+}
+
+void tst_QKXNumericValueObj::malformedUnitFromTheEngine_data()
+{
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<QString>("shown");   // 2500 in that unit, as the field shows it
+    QTest::addColumn<QStringList>("lines");
+    const QString malformed = QStringLiteral("UserInterface - Malformed Units property string. - \"%1\"");
+    const QString pairs = QStringLiteral("UserInterface - Malformed Units property string (Base Unit Portion). - \"%1\"");
+    const QString alone = QStringLiteral("UserInterface - QKXNumericValueObj \"Frequency\" no unit of its list converts to "
+                                         "\"%1\" - only the base unit is offered");
+    // The engine's unit is taken as far as it reads: two pairs of hertz are still hertz, shown in kHz.
+    QTest::newRow("two pairs") << "0,0,1:1;0:0" << "2.5" << QStringList{pairs.arg("0,0,1:1;0:0")};
+    QTest::newRow("no pairs") << "0,3" << "2500.0" << QStringList{malformed.arg("0,3"), pairs.arg("0,3"), alone.arg("k")};
+    QTest::newRow("empty") << "" << "2500.0" << QStringList{malformed.arg(""), pairs.arg(""), alone.arg("")};
+}
+
+void tst_QKXNumericValueObj::malformedUnitFromTheEngine()
+{
+    QFETCH(QString, unit);
+    QFETCH(QString, shown);
+    QFETCH(QStringList, lines);
+    FrequencyField f;
+    f.field.setValue(1500.0);
+    DebugLines debug;
+    QSignalSpy values(&f.field, QOverload<double, QString>::of(&QKXNumericValueObj::valueChanged));
+    f.field.setValue(2500.0, unit);
+    QCOMPARE(DebugLines::lines(), lines);
+    QCOMPARE(f.field.baseUnit(), unit);
+    QCOMPARE(f.display->text(), shown);
+    QCOMPARE(values.count(), 1);
+    QCOMPARE(values.at(0), QVariantList({2500.0, unit}));
 }
 
 void tst_QKXNumericValueObj::looksWithAndWithoutUnit()

@@ -1,0 +1,16 @@
+#include "PanelScreen.h"
+
+// The header of every screen in screens/, gathered by the build.
+#include "PanelScreenHeaders.h"
+
+std::vector<std::unique_ptr<PanelScreen>> createPanelScreens()
+{
+    std::vector<std::unique_ptr<PanelScreen>> screens;
+    // The panel's screens, in tab order: one line each.
+    screens.emplace_back(new CommandsScreen);
+    screens.emplace_back(new SwitchesScreen);
+    screens.emplace_back(new NumericScreen);
+    screens.emplace_back(new UnitsScreen);
+    screens.emplace_back(new ChoicesScreen);
+    return screens;
+}
