@@ -12,5 +12,7 @@ std::vector<std::unique_ptr<PanelScreen>> createPanelScreens()
     screens.emplace_back(new NumericScreen);
     screens.emplace_back(new UnitsScreen);
     screens.emplace_back(new ChoicesScreen);
+    screens.emplace_back(new SpectrumScreen);
+    screens.emplace_back(new ConstellationScreen);
     return screens;
 }

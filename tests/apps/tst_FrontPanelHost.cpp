@@ -342,10 +342,10 @@ void tst_FrontPanelHost::panelFitsEveryDisplayMode_data()
     QTest::addColumn<int>("extraScreens");
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("tabRows");
-    QTest::newRow("normal") << "normal" << 0 << QSize(800, 480) << 1;
-    QTest::newRow("normal, ten screens") << "normal" << 5 << QSize(800, 480) << 2;
-    QTest::newRow("portrait") << "small_portrait" << 0 << QSize(480, 800) << 2;
-    QTest::newRow("portrait, ten screens") << "small_portrait" << 5 << QSize(480, 800) << 4;
+    QTest::newRow("normal") << "normal" << 0 << QSize(800, 480) << 2;
+    QTest::newRow("normal, twelve screens") << "normal" << 5 << QSize(800, 480) << 3;
+    QTest::newRow("portrait") << "small_portrait" << 0 << QSize(480, 800) << 3;
+    QTest::newRow("portrait, twelve screens") << "small_portrait" << 5 << QSize(480, 800) << 4;
 }
 
 void tst_FrontPanelHost::panelFitsEveryDisplayMode()
