@@ -212,19 +212,19 @@ int kx_firstAtOrAfterNear(int from, int end, int guess, double column, Column co
     int step = 1;
     if (guess < end && columnOf(guess) < column) {
         int low = guess + 1;
-        int high = guess + step;
+        int high = guess + 1;
         while (high < end && columnOf(high) < column) {
             low = high + 1;
-            step *= 2;
+            step = int(qMin(2 * qint64(step), qint64(end - guess)));
             high = guess + step;
         }
         return kx_firstAtOrAfter(low, qMin(high, end), column, columnOf);
     }
     int high = guess;
-    int low = guess - step;
+    int low = guess - 1;
     while (low > from && columnOf(low) >= column) {
         high = low;
-        step *= 2;
+        step = int(qMin(2 * qint64(step), qint64(guess - from)));
         low = guess - step;
     }
     return kx_firstAtOrAfter(qMax(low, from), high, column, columnOf);
