@@ -16,5 +16,7 @@ std::vector<std::unique_ptr<PanelScreen>> createPanelScreens()
     screens.emplace_back(new SettingsScreen);
     screens.emplace_back(new TextScreen);
     screens.emplace_back(new MetersScreen);
+    screens.emplace_back(new SpectrumScreen);
+    screens.emplace_back(new ConstellationScreen);
     return screens;
 }

@@ -82,6 +82,11 @@ const QHash<QString, Placement> &placements()
     static const QHash<QString, Placement> all{
         {"QKXBrowseButton", {caption("Browse"), none}},
         {"QKXComboBox", {caption("Modulation"), showsLiteral({"AM", "FM", "Continuous"}, 2)}},
+        // Plots show no text of their own until a form turns their axes on.
+        {"QKXComplexTraceManager", {QString(), none}},
+        {"QKXComplexTracePattern", {QString(), none}},
+        {"QKXComplexTracePlot", {QString(), none}},
+        {"QKXComplexTraceRange", {QString(), none}},
         {"QKXConfirmationPushButton",
          {caption("Reset") + property("TitleText", "string", "Reset") + property("DialogText", "string", "Reset all?"),
           none}},
@@ -99,6 +104,7 @@ const QHash<QString, Placement> &placements()
               + property("Units", "string", dbm),
           showsValue(-30.5)}},
         {"QKXPlaybackControlButton", {property("ButtonType", "enum", "QKXPlaybackControlButton::play"), none}},
+        {"QKXPlotManager", {QString(), none}},
         {"QKXProgressBar", {caption("Sweep") + property("Value", "number", "40"), none}},
         {"QKXPushButton", {caption("Preset"), none}},
         {"QKXSaveTraceButton", {QString(), none}},   // an icon: a form gives it no text
