@@ -18,10 +18,11 @@ class STANDALONEPLUGINS_EXPORT QKXDateWidget : public QKXWidgetBase
 
 public:
     // The order of month, day and year in the date editor.
-    enum InputDateFormat { MM_DD_YYYY = 0, DD_MM_YYYY = 1, YYYY_MM_DD = 2 };
+    // Over int, so that any number a form or host writes is a value the widget can hold.
+    enum InputDateFormat : int { MM_DD_YYYY = 0, DD_MM_YYYY = 1, YYYY_MM_DD = 2 };
     Q_ENUM(InputDateFormat)
     // The shown text: "03 05, 2012", "05 03 2012" or "Mar 5, 2012".
-    enum DisplayDateFormat { MM_dd_yyyy = 0, dd_MM_yyyy = 1, MMM_d_YYYY = 2 };
+    enum DisplayDateFormat : int { MM_dd_yyyy = 0, dd_MM_yyyy = 1, MMM_d_YYYY = 2 };
     Q_ENUM(DisplayDateFormat)
 
     explicit QKXDateWidget(QWidget *parent = nullptr);

@@ -17,7 +17,7 @@ class STANDALONEPLUGINS_EXPORT QKXTimeWidget : public QKXWidgetBase
     Q_PROPERTY(qlonglong Value READ value WRITE setValue DESIGNABLE true STORED true)
 
 public:
-    enum TimeMode { LOCALE = 0, UTC = 1 };
+    enum TimeMode : int { LOCALE = 0, UTC = 1 };
     Q_ENUM(TimeMode)
 
     explicit QKXTimeWidget(QWidget *parent = nullptr);

@@ -24,7 +24,7 @@ class STANDALONEPLUGINS_EXPORT QKXDateSpin : public ContainerImpl
     Q_OBJECT
 public:
     // The column order, numbered as the date widget's InputDateFormat.
-    enum DateFormat { MM_DD_YYYY = 0, DD_MM_YYYY = 1, YYYY_MM_DD = 2 };
+    enum DateFormat : int { MM_DD_YYYY = 0, DD_MM_YYYY = 1, YYYY_MM_DD = 2 };
     Q_ENUM(DateFormat)
 
     explicit QKXDateSpin(QWidget *parent = nullptr);

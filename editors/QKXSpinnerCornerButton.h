@@ -15,7 +15,7 @@ class STANDALONEPLUGINS_EXPORT QKXSpinnerCornerButton : public QPushButton
 {
     Q_OBJECT
 public:
-    enum Corner { TopLeft = 0, TopRight = 1, BottomLeft = 2, BottomRight = 3 };
+    enum Corner : int { TopLeft = 0, TopRight = 1, BottomLeft = 2, BottomRight = 3 };
     Q_ENUM(Corner)
 
     QKXSpinnerCornerButton(Corner corner, const QString &text, QWidget *parent);

@@ -24,6 +24,11 @@ QKXEditStateFilterPrivate::~QKXEditStateFilterPrivate()
     if (machine) {
         machine->stop();
     }
+    // The machine owns its states once started; until then nobody does.
+    if (!started) {
+        delete idleState;
+        delete editState;
+    }
 }
 
 void QKXEditStateFilterPrivate::init(QObject *parent)

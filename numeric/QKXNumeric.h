@@ -24,7 +24,8 @@ class STANDALONEPLUGINS_EXPORT QKXNumeric : public QKXWidgetBase
 
 public:
     // The radix of the display and of typed text.
-    enum BaseType { DEC = 10, HEX = 16, OCT = 8, BIN = 2 };
+    // Over int, so that any number a form or host writes is a value the field can hold.
+    enum BaseType : int { DEC = 10, HEX = 16, OCT = 8, BIN = 2 };
     Q_ENUM(BaseType)
 
     explicit QKXNumeric(QWidget *parent = nullptr);

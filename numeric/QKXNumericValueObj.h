@@ -22,7 +22,7 @@ class STANDALONEPLUGINS_EXPORT QKXNumericValueObj : public QKXNumeric
 public:
     // Which units of the list the selector offers: none, those with the base unit's five pairs
     // (prefixes of it), or every unit the base unit converts to.
-    enum Unit_Groups { None = 0, Base = 1, Convertable = 2 };
+    enum Unit_Groups : int { None = 0, Base = 1, Convertable = 2 };
     Q_ENUM(Unit_Groups)
 
     explicit QKXNumericValueObj(QWidget *parent = nullptr);

@@ -34,7 +34,8 @@ message("${kx_output}")
 
 # An application of its own, outside this tree, against the installed package.
 kx_run(${CMAKE_COMMAND} -S ${KX_CONSUMER_SOURCE} -B ${KX_CONSUMER_BUILD} -G ${KX_GENERATOR}
-       -DCMAKE_PREFIX_PATH=${KX_PREFIX})
+       -DCMAKE_PREFIX_PATH=${KX_PREFIX} "-DCMAKE_CXX_FLAGS=${KX_CONSUMER_FLAGS}"
+       "-DCMAKE_EXE_LINKER_FLAGS=${KX_CONSUMER_FLAGS}")
 kx_run(${CMAKE_COMMAND} --build ${KX_CONSUMER_BUILD})
 kx_run(${KX_CONSUMER_BUILD}/consumer)
 if(NOT kx_output MATCHES "consumer: 2.500")
