@@ -14,7 +14,7 @@ namespace gui {
 class STANDALONEPLUGINS_EXPORT KXWidgets : public QObject, public QDesignerCustomWidgetCollectionInterface
 {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID "org.qt-project.Qt.QDesignerCustomWidgetCollectionInterface")
+    Q_PLUGIN_METADATA(IID "org.qt-project.Qt.QDesignerCustomWidgetCollectionInterface" FILE "KXWidgets.json")
     Q_INTERFACES(QDesignerCustomWidgetCollectionInterface)
 public:
     explicit KXWidgets(QObject *parent = nullptr);

@@ -8,7 +8,10 @@
 #include "ScreenList.h"
 #include "SimulatedEngine.h"
 
+#include "KXWidgets.h"
 #include "QKXPushButton.h"
+
+#include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -66,6 +69,44 @@ QStringList ScreenRunner::renderScreens()
         }
     }
     screens->setCurrentIndex(0);
+    return paths;
+}
+
+QStringList ScreenRunner::renderWidgets(QStringList *missing)
+{
+    QStringList classes;
+    const Norvane::gui::KXWidgets collection;
+    for (QDesignerCustomWidgetInterface *plugin : collection.customWidgets()) {
+        classes.append(plugin->name());
+    }
+    QDir widgetDirectory(outputDirectory.absoluteFilePath(QStringLiteral("widgets")));
+    if (!widgetDirectory.mkpath(QStringLiteral("."))) {
+        fail(QStringLiteral("cannot create %1").arg(widgetDirectory.absolutePath()));
+        return QStringList();
+    }
+    QStringList paths;
+    ScreenList *screens = mainWindow->screens();
+    for (int i = 0; i < screens->count() && !classes.isEmpty(); ++i) {
+        screens->setCurrentIndex(i);
+        settle();
+        for (QWidget *widget : screens->screen(i)->findChildren<QWidget *>()) {
+            const QString className = QString::fromLatin1(widget->metaObject()->className());
+            if (!widget->isVisible() || !classes.contains(className)) {
+                continue;
+            }
+            const QString path = widgetDirectory.absoluteFilePath(className + QStringLiteral(".png"));
+            if (!widget->grab().save(path, "PNG")) {
+                fail(QStringLiteral("cannot write %1").arg(path));
+                continue;
+            }
+            classes.removeOne(className);
+            paths.append(path);
+        }
+    }
+    screens->setCurrentIndex(0);
+    if (missing) {
+        *missing = classes;
+    }
     return paths;
 }
 

@@ -34,6 +34,10 @@ public:
     // Renders each screen in turn as "<nn>-<id>.png"; returns the absolute paths written. Leaves the
     // first screen showing.
     QStringList renderScreens();
+    // Renders the first widget of each class of the Designer collection found on the screens, alone,
+    // as "widgets/<class>.png"; returns the absolute paths written. The classes no screen shows are
+    // added to missing. Leaves the first screen showing.
+    QStringList renderWidgets(QStringList *missing = nullptr);
     // Renders the window as it is now as "<baseName>.png"; returns the absolute path, or "" with
     // failure() saying why.
     QString renderWindow(const QString &baseName);

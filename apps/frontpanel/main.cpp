@@ -47,6 +47,13 @@ static int frontpanel_runHeadless(MainWindow &window, const QString &outputDir, 
         err << "frontpanel: " << runner.failure() << Qt::endl;
         ok = false;
     }
+    QStringList notOnAScreen;
+    const QStringList widgetImages = runner.renderWidgets(&notOnAScreen);
+    out << "frontpanel: " << widgetImages.size() << " widget pictures in " << dir.absoluteFilePath(QStringLiteral("widgets"))
+        << Qt::endl;
+    if (!notOnAScreen.isEmpty()) {
+        out << "frontpanel: on no screen: " << notOnAScreen.join(QStringLiteral(", ")) << Qt::endl;
+    }
     if (runner.tapPushButton(tapTarget)) {
         out << "frontpanel: scripted tap on " << tapTarget << " complete" << Qt::endl;
     } else {

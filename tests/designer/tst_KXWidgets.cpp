@@ -10,6 +10,46 @@
 #include <QUiLoader>
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
+namespace {
+struct PluginRow
+{
+    const char *widgetClass;
+    const char *whatsThis;
+};
+
+// The widget box in the order forms have always listed it.
+const PluginRow pluginTable[] = {
+    {"QKXBrowseButton", "QKXBrowseButton widget."},
+    {"QKXComboBox", "ComboBox entry widget ()."},
+    {"QKXConfirmationPushButton", "QKXConfirmationPushButton widget."},
+    {"QKXConfirmationToggleButton", "QKXConfirmationToggleButton widget."},
+    {"QKXComplexTraceManager", "QKXComplexTraceManager widget."},
+    {"QKXComplexTracePlot", "Complex trace plot"},
+    {"QKXComplexTraceRange", "QKXComplexTraceRange widget."},
+    {"QKXDateWidget", "Date widget"},
+    {"QKXFlagStatus", "Read only status widget"},
+    {"QKXListDoubleValueObj", "Value double with discrete widget."},
+    {"QKXMeterBar", "Meter Bar."},
+    {"QKXNumeric", "Numeric entry widget (int and double)."},
+    {"QKXNumericMeterReading", "Numeric entry widget with units (int and double value objects)."},
+    {"QKXNumericValueObj", "Numeric entry widget with units (int and double value objects)."},
+    {"QKXPlaybackControlButton", "QKXPlaybackControlButton widget."},
+    {"QKXPlotManager", "QKXPlotManager entry widget ()."},
+    {"QKXProgressBar", "Progress Bar"},
+    {"QKXPushButton", "QKXPushButton widget."},
+    {"QKXSaveTraceButton", "QKXSaveTraceButton widget."},
+    {"QKXSliderHorizontal", "Horizontal Slider"},
+    {"QKXSliderVertical", "Vertical Slider"},
+    {"QKXTableEnum", "TableEnum"},
+    {"QKXTextEntry", "ToggleButton entry widget (bool)."},
+    {"QKXTextLog", "A log to append strings to ()."},
+    {"QKXTimeWidget", "Date widget"},
+    {"QKXToggleButton", "ToggleButton entry widget (bool)."},
+    {"QKXComplexTracePattern", "QKXComplexTracePattern widget."},
+    {"QKXWheelEnum", "ComboBox entry widget ()."},
+};
+} // namespace
+
 // Everything here goes through the built shared library the way Designer and QUiLoader reach it.
 class tst_KXWidgets : public QObject
 {
@@ -21,10 +61,10 @@ private:
 
 private slots:
     void pluginLoaderHandsOutOneCollection();
-    void pushButtonPluginDescribesTheWidget();
-    void sliderPluginsDescribeTheirWidgets();
-    void initializeIsIdempotent();
-    void createWidgetBuildsAParentlessWidget();
+    void collectionListsEveryWidgetOnceInOrder();
+    void everyPluginDescribesItsWidget_data();
+    void everyPluginDescribesItsWidget();
+    void pluginsGoWithTheCollection();
     void verificationTextIsExported();
     void uiLoaderBuildsAFormWithThePushButton();
 };
@@ -45,79 +85,78 @@ void tst_KXWidgets::pluginLoaderHandsOutOneCollection()
     QVERIFY(qobject_cast<Norvane::gui::KXWidgets *>(first));
     QVERIFY(!first->parent());
 
-    const QList<QDesignerCustomWidgetInterface *> widgets = collection->customWidgets();
-    QVERIFY(!widgets.isEmpty());
-    QStringList names;
-    for (QDesignerCustomWidgetInterface *plugin : widgets) {
-        names << plugin->name();
-        QCOMPARE(plugin->group(), QStringLiteral("Kexal (Stand-alone)"));
-        QCOMPARE(plugin->toolTip(), plugin->name());
-        QCOMPARE(plugin->includeFile(), plugin->name() + QStringLiteral(".h"));
-        QVERIFY(!plugin->isContainer());
-        QVERIFY(plugin->icon().isNull());
-    }
-    QVERIFY(names.contains(QStringLiteral("QKXPushButton")));
-    QCOMPARE(names.count(), QSet<QString>(names.begin(), names.end()).count());
+    QCOMPARE(collection->customWidgets().size(), int(sizeof(pluginTable) / sizeof(pluginTable[0])));
 }
 
-static QDesignerCustomWidgetInterface *pluginNamed(const QString &name, QObject *owner)
+void tst_KXWidgets::collectionListsEveryWidgetOnceInOrder()
 {
-    auto *collection = new Norvane::gui::KXWidgets(owner);
-    for (QDesignerCustomWidgetInterface *plugin : collection->customWidgets()) {
-        if (plugin->name() == name) {
-            return plugin;
+    Norvane::gui::KXWidgets collection;
+    QStringList offered;
+    for (QDesignerCustomWidgetInterface *plugin : collection.customWidgets()) {
+        offered << plugin->name();
+    }
+    QStringList expected;
+    for (const PluginRow &row : pluginTable) {
+        expected << QString::fromLatin1(row.widgetClass);
+    }
+    QCOMPARE(offered, expected);
+}
+
+void tst_KXWidgets::everyPluginDescribesItsWidget_data()
+{
+    QTest::addColumn<QString>("widgetClass");
+    QTest::addColumn<QString>("whatsThis");
+    QTest::addColumn<QString>("formName");
+    for (const PluginRow &row : pluginTable) {
+        const QString widgetClass = QString::fromLatin1(row.widgetClass);
+        // Forms have always named a new vertical slider so.
+        const QString formName = widgetClass == QLatin1String("QKXSliderVertical") ? QStringLiteral("QKXSliderVertial")
+                                                                                    : widgetClass;
+        QTest::newRow(row.widgetClass) << widgetClass << QString::fromLatin1(row.whatsThis) << formName;
+    }
+}
+
+void tst_KXWidgets::everyPluginDescribesItsWidget()
+{
+    QFETCH(QString, widgetClass);
+    QFETCH(QString, whatsThis);
+    QFETCH(QString, formName);
+    Norvane::gui::KXWidgets collection;
+    QDesignerCustomWidgetInterface *plugin = nullptr;
+    for (QDesignerCustomWidgetInterface *candidate : collection.customWidgets()) {
+        if (candidate->name() == widgetClass) {
+            plugin = candidate;
         }
     }
-    return nullptr;
-}
-
-void tst_KXWidgets::pushButtonPluginDescribesTheWidget()
-{
-    QObject owner;
-    QDesignerCustomWidgetInterface *plugin = pluginNamed(QStringLiteral("QKXPushButton"), &owner);
     QVERIFY(plugin);
-    QCOMPARE(plugin->whatsThis(), QStringLiteral("QKXPushButton widget."));
-    QCOMPARE(plugin->domXml(), QStringLiteral("<widget class=\"QKXPushButton\" name=\"QKXPushButton\">\n</widget>\n"));
-    QCOMPARE(dynamic_cast<QObject *>(plugin)->objectName(), QStringLiteral("QKXPushButtonPlugin"));
+    QCOMPARE(dynamic_cast<QObject *>(plugin)->objectName(), widgetClass + QStringLiteral("Plugin"));
+    QCOMPARE(plugin->group(), QStringLiteral("Kexal (Stand-alone)"));
+    QCOMPARE(plugin->toolTip(), widgetClass);
+    QCOMPARE(plugin->whatsThis(), whatsThis);
+    QCOMPARE(plugin->includeFile(), widgetClass + QStringLiteral(".h"));
+    QCOMPARE(plugin->domXml(),
+             QStringLiteral("<widget class=\"%1\" name=\"%2\">\n</widget>\n").arg(widgetClass, formName));
+    QVERIFY(plugin->icon().isNull());
+    QVERIFY(!plugin->isContainer());
+
     QVERIFY(!plugin->isInitialized());
-}
-
-void tst_KXWidgets::sliderPluginsDescribeTheirWidgets()
-{
-    // Forms name a new vertical slider as they always have.
-    QObject owner;
-    QDesignerCustomWidgetInterface *horizontal = pluginNamed(QStringLiteral("QKXSliderHorizontal"), &owner);
-    QDesignerCustomWidgetInterface *vertical = pluginNamed(QStringLiteral("QKXSliderVertical"), &owner);
-    QVERIFY(horizontal && vertical);
-    QCOMPARE(horizontal->whatsThis() + '|' + vertical->whatsThis(), QStringLiteral("Horizontal Slider|Vertical Slider"));
-    QCOMPARE(horizontal->domXml(), QStringLiteral("<widget class=\"QKXSliderHorizontal\" name=\"QKXSliderHorizontal\">\n</widget>\n"));
-    QCOMPARE(vertical->domXml(), QStringLiteral("<widget class=\"QKXSliderVertical\" name=\"QKXSliderVertial\">\n</widget>\n"));
-}
-
-void tst_KXWidgets::initializeIsIdempotent()
-{
-    QObject owner;
-    QDesignerCustomWidgetInterface *plugin = pluginNamed(QStringLiteral("QKXPushButton"), &owner);
-    QVERIFY(plugin);
     plugin->initialize(nullptr);
     plugin->initialize(nullptr);
     QVERIFY(plugin->isInitialized());
+
+    QScopedPointer<QWidget> widget(plugin->createWidget(nullptr));
+    QVERIFY(widget);
+    QVERIFY(!widget->parent());
+    QCOMPARE(QString::fromLatin1(widget->metaObject()->className()), widgetClass);
 }
 
-void tst_KXWidgets::createWidgetBuildsAParentlessWidget()
+void tst_KXWidgets::pluginsGoWithTheCollection()
 {
-    QObject owner;
-    auto *collection = new Norvane::gui::KXWidgets(&owner);
-    for (QDesignerCustomWidgetInterface *plugin : collection->customWidgets()) {
-        QScopedPointer<QWidget> widget(plugin->createWidget(nullptr));
-        QVERIFY(widget);
-        QVERIFY(!widget->parent());
-        QCOMPARE(QString::fromLatin1(widget->metaObject()->className()), plugin->name());
-    }
-    // The plug-ins belong to the collection and go with it.
-    QPointer<QObject> firstPlugin = dynamic_cast<QObject *>(collection->customWidgets().first());
+    auto *collection = new Norvane::gui::KXWidgets;
+    QPointer<QObject> lastPlugin = dynamic_cast<QObject *>(collection->customWidgets().last());
+    QCOMPARE(lastPlugin->parent(), collection);
     delete collection;
-    QVERIFY(firstPlugin.isNull());
+    QVERIFY(lastPlugin.isNull());
 }
 
 void tst_KXWidgets::verificationTextIsExported()

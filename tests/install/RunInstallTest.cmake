@@ -32,6 +32,43 @@ set(ENV{KX_INSTALL_PREFIX} ${KX_PREFIX})
 kx_run(${KX_PLUGIN_TEST})
 message("${kx_output}")
 
+# Qt's plug-in tool reads what the installed plug-in says of itself.
+kx_run(${KX_QTPLUGININFO} ${pluginPath}/designer/libstandaloneplugins.so)
+message("qtplugininfo:\n${kx_output}")
+if(NOT kx_output MATCHES "IID \"org.qt-project.Qt.QDesignerCustomWidgetCollectionInterface\""
+   OR NOT kx_output MATCHES "Kexal \\(Stand-alone\\)" OR NOT kx_output MATCHES "QKXWheelEnum"
+   OR kx_output MATCHES "invalid")
+    message(FATAL_ERROR "qtplugininfo does not read the collection's metadata")
+endif()
+
+# Qt Designer itself, started on the installed plug-in with the plug-in loader's log on. It runs until
+# stopped, so it is given a few seconds to load its plug-ins. Its settings go to a folder of its own.
+# A sanitized build's library only loads into programs built with the same sanitizers, which Designer
+# is not.
+if(KX_CONSUMER_FLAGS)
+    message("Qt Designer is not started on a sanitized build")
+else()
+    set(ENV{QT_DEBUG_PLUGINS} 1)
+    set(ENV{QT_QPA_PLATFORM} offscreen)
+    set(ENV{XDG_CONFIG_HOME} ${KX_PREFIX}/designer-settings)
+    set(ENV{HOME} ${KX_PREFIX}/designer-home)
+    file(MAKE_DIRECTORY $ENV{XDG_CONFIG_HOME} $ENV{HOME})
+    execute_process(COMMAND ${KX_DESIGNER} TIMEOUT 15 OUTPUT_VARIABLE out ERROR_VARIABLE err)
+    unset(ENV{QT_DEBUG_PLUGINS})
+    set(designerLog "${out}${err}")
+    message("Qt Designer's plug-in log:\n${designerLog}")
+    # The loader names the library behind the link in Designer's folder: the installed one.
+    string(REGEX MATCH "loaded library \"([^\"]*libstandaloneplugins\\.so)\"" loaded "${designerLog}")
+    string(FIND "${CMAKE_MATCH_1}" "${KX_PREFIX}/" atPrefix)
+    if(NOT loaded OR NOT atPrefix EQUAL 0)
+        message(FATAL_ERROR "Qt Designer did not load the installed collection")
+    endif()
+    string(REGEX MATCHALL "[^\n]*([Ww]arning|[Cc]annot|[Ff]ailed|not a valid|QFormBuilder)[^\n]*" problems "${designerLog}")
+    if(problems)
+        message(FATAL_ERROR "Qt Designer warned while loading the collection:\n${problems}")
+    endif()
+endif()
+
 # An application of its own, outside this tree, against the installed package.
 kx_run(${CMAKE_COMMAND} -S ${KX_CONSUMER_SOURCE} -B ${KX_CONSUMER_BUILD} -G ${KX_GENERATOR}
        -DCMAKE_PREFIX_PATH=${KX_PREFIX} "-DCMAKE_CXX_FLAGS=${KX_CONSUMER_FLAGS}"

@@ -42,26 +42,24 @@ void tst_InstalledPlugin::loadsFromTheInstalledFolder()
 void tst_InstalledPlugin::formsAreBuiltFromTheInstalledPlugin()
 {
     QUiLoader loader;
-    QVERIFY(loader.availableWidgets().contains(QStringLiteral("QKXNumeric")));
-    QByteArray form = R"(<?xml version="1.0" encoding="UTF-8"?>
-<ui version="4.0">
- <class>Screen</class>
- <widget class="QWidget" name="Screen">
-  <widget class="QKXNumeric" name="level">
-   <property name="AttributeName"><string>Level</string></property>
-  </widget>
-  <widget class="QKXPushButton" name="preset"/>
- </widget>
-</ui>
-)";
-    QBuffer buffer(&form);
-    QScopedPointer<QWidget> screen(loader.load(&buffer));
+    QFile form(QStringLiteral(KX_EVERY_WIDGET_FORM));
+    QVERIFY(form.open(QIODevice::ReadOnly));
+    const QByteArray text = form.readAll();
+    form.seek(0);
+    QScopedPointer<QWidget> screen(loader.load(&form));
     QVERIFY2(screen, qPrintable(loader.errorString()));
-    QWidget *level = screen->findChild<QWidget *>(QStringLiteral("level"));
-    QVERIFY(level);
-    QCOMPARE(QString::fromLatin1(level->metaObject()->className()), QStringLiteral("QKXNumeric"));
-    QCOMPARE(level->property("AttributeName").toString(), QStringLiteral("Level"));
-    QVERIFY(screen->findChild<QWidget *>(QStringLiteral("preset")));
+
+    // Every widget the form names is there, of the class the form gives it.
+    const QRegularExpression placed(QStringLiteral("<widget class=\"(QKX\\w+)\" name=\"(\\w+)\""));
+    int count = 0;
+    for (auto it = placed.globalMatch(QString::fromUtf8(text)); it.hasNext(); ++count) {
+        const auto match = it.next();
+        QWidget *widget = screen->findChild<QWidget *>(match.captured(2));
+        QVERIFY2(widget, qPrintable(match.captured(2)));
+        QCOMPARE(QString::fromLatin1(widget->metaObject()->className()), match.captured(1));
+        QVERIFY(loader.availableWidgets().contains(match.captured(1)));
+    }
+    QCOMPARE(count, 28);
 }
 
 QTEST_MAIN(tst_InstalledPlugin)
