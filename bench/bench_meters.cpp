@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // What 50 meters cost the GUI thread when the engine sends each of them a reading list 20 times a
 // second (1000 updates a second), against a reference screen of plain Qt widgets given the same
 // numbers: a QProgressBar and a QLabel per meter, once as they come (a label's new text has the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Time per frame of a spectrum-like trace of 1 000, 100 000 and 1 000 000 points, fed to our plot
 // canvas, to a plain QwtPlot with a plain curve and to QCustomPlot, each drawn offscreen at 800 x 480
 // with a bottom and a left axis. One frame: hand over the points, replot, grab the widget's picture.

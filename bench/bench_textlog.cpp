@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Cost of a flood of engine events into the text log: 100 000 lines into a log that keeps the last
 // 1000, on a shown widget whose event loop runs every 100 lines, as the panel's would between bursts.
 // Read against two references measured in the same run: a plain QTextEdit appending the same lines

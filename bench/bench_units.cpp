@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Cost of the units operations that every meter update and numeric display pays. Each figure is
 // read against the two references measured in the same run (a multiplication and
 // QString::number), so the ratios hold from one machine to another; `./kx bench` prints them.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef KXCONFIRMATIONPROMPT_P_H
 #define KXCONFIRMATIONPROMPT_P_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "KXToggleAction_p.h"
 
 #include <QDebug>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef KXTOGGLEACTION_P_H
 #define KXTOGGLEACTION_P_H
 

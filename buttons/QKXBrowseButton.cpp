@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "QKXBrowseButton.h"
 #include "QKXPushButton_p.h"
 

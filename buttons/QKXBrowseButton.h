@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXBROWSEBUTTON_H
 #define QKXBROWSEBUTTON_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "QKXBrowseButtonEventFilter.h"
 #include "QKXEventFilterBase_p.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXCONFIRMATIONPUSHBUTTON_H
 #define QKXCONFIRMATIONPUSHBUTTON_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXFLAGSTATUS_H
 #define QKXFLAGSTATUS_H
 

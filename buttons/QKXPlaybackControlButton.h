@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXPLAYBACKCONTROLBUTTON_H
 #define QKXPLAYBACKCONTROLBUTTON_H
 

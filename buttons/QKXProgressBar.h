@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXPROGRESSBAR_H
 #define QKXPROGRESSBAR_H
 

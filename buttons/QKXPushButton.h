@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXPUSHBUTTON_H
 #define QKXPUSHBUTTON_H
 

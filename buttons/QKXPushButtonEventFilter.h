@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXPUSHBUTTONEVENTFILTER_H
 #define QKXPUSHBUTTONEVENTFILTER_H
 

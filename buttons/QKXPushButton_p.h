@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXPUSHBUTTON_P_H
 #define QKXPUSHBUTTON_P_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXRICHTEXTPUSHBUTTON_H
 #define QKXRICHTEXTPUSHBUTTON_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXSAVETRACEBUTTON_H
 #define QKXSAVETRACEBUTTON_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "QKXToggleButton.h"
 #include "QKXToggleButton_p.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXTOGGLEBUTTON_P_H
 #define QKXTOGGLEBUTTON_P_H
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # Installation: the widget library and the host layer, their public headers (no _p.h), a CMake
 # package (find_package(StandalonePlugins) gives StandalonePlugins::standaloneplugins), a pkg-config
 # file, and the library once more in the place Qt Designer loads plug-ins from.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # The library is built in layers, one folder each, lowest first:
 #
 #   host (libnorvanehost.so) < framework < buttons < enums < numeric < text, meters, plot, datetime,

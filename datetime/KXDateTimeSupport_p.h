@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef KXDATETIMESUPPORT_P_H
 #define KXDATETIMESUPPORT_P_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "QKXDateWidget.h"
 
 #include "KXDateTimeSupport_p.h"

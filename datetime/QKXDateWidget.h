@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXDATEWIDGET_H
 #define QKXDATEWIDGET_H
 

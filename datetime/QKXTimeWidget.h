@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXTIMEWIDGET_H
 #define QKXTIMEWIDGET_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef KXWIDGETS_H
 #define KXWIDGETS_H
 

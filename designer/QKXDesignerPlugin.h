@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXDESIGNERPLUGIN_H
 #define QKXDESIGNERPLUGIN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef KXDATETIMESPIN_P_H
 #define KXDATETIMESPIN_P_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef KXSTEPPOWER_P_H
 #define KXSTEPPOWER_P_H
 

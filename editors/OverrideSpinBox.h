@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef OVERRIDESPINBOX_H
 #define OVERRIDESPINBOX_H
 

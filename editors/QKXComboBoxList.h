@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXCOMBOBOXLIST_H
 #define QKXCOMBOBOXLIST_H
 

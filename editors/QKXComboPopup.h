@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXCOMBOPOPUP_H
 #define QKXCOMBOPOPUP_H
 

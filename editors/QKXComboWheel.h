@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXCOMBOWHEEL_H
 #define QKXCOMBOWHEEL_H
 

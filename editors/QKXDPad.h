@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXDPAD_H
 #define QKXDPAD_H
 

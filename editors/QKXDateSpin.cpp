@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "QKXDateSpin.h"
 
 #include "KXDateTimeSpin_p.h"

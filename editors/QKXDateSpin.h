@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXDATESPIN_H
 #define QKXDATESPIN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXDTMFKEYPAD_H
 #define QKXDTMFKEYPAD_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXENTRYBASE_H
 #define QKXENTRYBASE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXKEYPADBASE_P_H
 #define QKXKEYPADBASE_P_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXKEYBOARD_H
 #define QKXKEYBOARD_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXNUMPAD_H
 #define QKXNUMPAD_H
 

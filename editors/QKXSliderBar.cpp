@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "QKXSliderBar.h"
 
 #include "KXNumberConversion_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXSLIDERBAR_H
 #define QKXSLIDERBAR_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXSPINNER_H
 #define QKXSPINNER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXSPINNERCORNERBUTTON_H
 #define QKXSPINNERCORNERBUTTON_H
 

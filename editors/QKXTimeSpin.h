@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXTIMESPIN_H
 #define QKXTIMESPIN_H
 

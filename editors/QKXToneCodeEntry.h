@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXTONECODEENTRY_H
 #define QKXTONECODEENTRY_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXDPMRKEYPAD_H
 #define QKXDPMRKEYPAD_H
 

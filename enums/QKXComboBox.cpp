@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "QKXComboBox.h"
 #include "QKXComboBox_p.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXCOMBOBOX_P_H
 #define QKXCOMBOBOX_P_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXCOMBOEVENTFILTER_H
 #define QKXCOMBOEVENTFILTER_H
 

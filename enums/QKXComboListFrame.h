@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXCOMBOLISTFRAME_H
 #define QKXCOMBOLISTFRAME_H
 

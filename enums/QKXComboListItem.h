@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXCOMBOLISTITEM_H
 #define QKXCOMBOLISTITEM_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXENUMRECORD_H
 #define QKXENUMRECORD_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXTABLEENUM_H
 #define QKXTABLEENUM_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXTABLEENUMEVENTFILTER_H
 #define QKXTABLEENUMEVENTFILTER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXWHEELENUM_H
 #define QKXWHEELENUM_H
 

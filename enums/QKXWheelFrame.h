@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXWHEELFRAME_H
 #define QKXWHEELFRAME_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef KXNUMBERCONVERSION_P_H
 #define KXNUMBERCONVERSION_P_H
 

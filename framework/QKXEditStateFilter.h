@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXEDITSTATEFILTER_H
 #define QKXEDITSTATEFILTER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXEDITSTATEFILTER_P_H
 #define QKXEDITSTATEFILTER_P_H
 

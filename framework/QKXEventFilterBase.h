@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXEVENTFILTERBASE_H
 #define QKXEVENTFILTERBASE_H
 

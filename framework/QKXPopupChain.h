@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXPOPUPCHAIN_H
 #define QKXPOPUPCHAIN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXPOPUPPLACEMENT_H
 #define QKXPOPUPPLACEMENT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXWIDGETBASE_P_H
 #define QKXWIDGETBASE_P_H
 

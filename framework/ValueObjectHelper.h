@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef VALUEOBJECTHELPER_H
 #define VALUEOBJECTHELPER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // libFuzzer harness for the meters' setValue(QVariant): whatever the engine sends, a meter bar and a
 // numeric meter reading neither crash, nor read past an end, nor show a number that is not one.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // libFuzzer harness for the plots' trace intake: setTrace(type, topicName, data).
 //
 // Input: a QDataStream (version Qt 5.15) holding a byte that picks the trace type, a byte that picks

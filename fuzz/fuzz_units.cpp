@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // libFuzzer harness for units property strings and conversions.
 //
 // Input: UTF-8 text "first|second" (the second defaults to the first), optionally followed by a

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "CSS.h"
 
 // One dark blue-grey instrument theme. The panel is read under bright bench lights and in dim racks,

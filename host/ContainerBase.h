@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef CONTAINERBASE_H
 #define CONTAINERBASE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef CONTAINERBASE_P_H
 #define CONTAINERBASE_P_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef CONTAINERDIALOG_H
 #define CONTAINERDIALOG_H
 

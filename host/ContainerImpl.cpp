@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "ContainerImpl.h"
 #include "ContainerBase_p.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef CONTAINERIMPL_H
 #define CONTAINERIMPL_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef CUSTOMMARKER_H
 #define CUSTOMMARKER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef GLOBALIMPL_H
 #define GLOBALIMPL_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef METERBAR_BAR_H
 #define METERBAR_BAR_H
 

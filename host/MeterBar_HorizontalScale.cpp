@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "MeterBar_HorizontalScale.h"
 
 MeterBar_HorizontalScale::MeterBar_HorizontalScale(const QString &text, QWidget *parent)

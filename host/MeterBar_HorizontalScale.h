@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef METERBAR_HORIZONTALSCALE_H
 #define METERBAR_HORIZONTALSCALE_H
 

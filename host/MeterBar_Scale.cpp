@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "MeterBar_Scale.h"
 
 #include <QEvent>

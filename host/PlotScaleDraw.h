@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef PLOTSCALEDRAW_H
 #define PLOTSCALEDRAW_H
 

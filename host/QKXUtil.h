@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXUTIL_H
 #define QKXUTIL_H
 

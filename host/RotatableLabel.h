@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef ROTATABLELABEL_H
 #define ROTATABLELABEL_H
 

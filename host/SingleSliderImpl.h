@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef SINGLESLIDERIMPL_H
 #define SINGLESLIDERIMPL_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef SLIDERBARIMPL_H
 #define SLIDERBARIMPL_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef SYSTEMMODULE_H
 #define SYSTEMMODULE_H
 

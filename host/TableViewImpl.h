@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef TABLEVIEWIMPL_H
 #define TABLEVIEWIMPL_H
 

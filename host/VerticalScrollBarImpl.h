@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef VERTICALSCROLLBARIMPL_H
 #define VERTICALSCROLLBARIMPL_H
 

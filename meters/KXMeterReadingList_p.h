@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef KXMETERREADINGLIST_P_H
 #define KXMETERREADINGLIST_P_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXMETERBAR_H
 #define QKXMETERBAR_H
 

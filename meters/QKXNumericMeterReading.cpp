@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "QKXNumericMeterReading.h"
 
 #include "KXMeterReadingList_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXNUMERICMETERREADING_H
 #define QKXNUMERICMETERREADING_H
 

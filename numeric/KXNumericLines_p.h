@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef KXNUMERICLINES_P_H
 #define KXNUMERICLINES_P_H
 

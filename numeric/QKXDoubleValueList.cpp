@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "QKXDoubleValueList.h"
 
 #include "QKXComboListFrame.h"

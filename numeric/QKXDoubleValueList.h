@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXDOUBLEVALUELIST_H
 #define QKXDOUBLEVALUELIST_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "QKXListDoubleValueObj.h"
 #include "QKXListDoubleValueObj_p.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXLISTDOUBLEVALUEOBJ_H
 #define QKXLISTDOUBLEVALUEOBJ_H
 

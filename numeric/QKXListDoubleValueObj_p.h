@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXLISTDOUBLEVALUEOBJ_P_H
 #define QKXLISTDOUBLEVALUEOBJ_P_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXNUMERIC_H
 #define QKXNUMERIC_H
 

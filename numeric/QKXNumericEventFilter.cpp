@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "QKXNumericEventFilter.h"
 
 #include "KXNumberConversion_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXNUMERICEVENTFILTER_H
 #define QKXNUMERICEVENTFILTER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "QKXNumericValueObjEventFilter.h"
 
 #include "KXNumberConversion_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXNUMERICVALUEOBJ_P_H
 #define QKXNUMERICVALUEOBJ_P_H
 

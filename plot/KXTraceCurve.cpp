@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "KXTraceCurve_p.h"
 
 #include <QPainter>

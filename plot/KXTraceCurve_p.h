@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef KXTRACECURVE_P_H
 #define KXTRACECURVE_P_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXCOMPLEXTRACEMANAGER_H
 #define QKXCOMPLEXTRACEMANAGER_H
 

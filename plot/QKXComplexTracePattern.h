@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXCOMPLEXTRACEPATTERN_H
 #define QKXCOMPLEXTRACEPATTERN_H
 

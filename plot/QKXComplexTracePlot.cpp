@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "QKXComplexTracePlot.h"
 #include "QKXPlotManager_p.h"
 

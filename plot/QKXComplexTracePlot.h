@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXCOMPLEXTRACEPLOT_H
 #define QKXCOMPLEXTRACEPLOT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXCOMPLEXTRACERANGE_H
 #define QKXCOMPLEXTRACERANGE_H
 

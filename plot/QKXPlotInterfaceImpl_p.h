@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXPLOTINTERFACEIMPL_P_H
 #define QKXPLOTINTERFACEIMPL_P_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXPLOTMANAGER_H
 #define QKXPLOTMANAGER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXPLOTREFPATTERNMANAGER_H
 #define QKXPLOTREFPATTERNMANAGER_H
 

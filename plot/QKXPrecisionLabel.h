@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXPRECISIONLABEL_H
 #define QKXPRECISIONLABEL_H
 

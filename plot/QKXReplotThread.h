@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXREPLOTTHREAD_H
 #define QKXREPLOTTHREAD_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "QKXSliderEventFilter.h"
 
 #include "QKXEditStateFilter_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXSLIDEREVENTFILTER_H
 #define QKXSLIDEREVENTFILTER_H
 

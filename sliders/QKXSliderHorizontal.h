@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXSLIDERHORIZONTAL_H
 #define QKXSLIDERHORIZONTAL_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXSLIDERVERTICAL_H
 #define QKXSLIDERVERTICAL_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXTEXTENTRY_H
 #define QKXTEXTENTRY_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXTEXTEVENTFILTER_H
 #define QKXTEXTEVENTFILTER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef QKXTEXTLOG_H
 #define QKXTEXTLOG_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef APPPROPERTIES_H
 #define APPPROPERTIES_H
 

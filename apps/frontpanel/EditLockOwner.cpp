@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "EditLockOwner.h"
 
 #include "QKXEventFilterBase.h"

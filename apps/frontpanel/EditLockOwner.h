@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef EDITLOCKOWNER_H
 #define EDITLOCKOWNER_H
 

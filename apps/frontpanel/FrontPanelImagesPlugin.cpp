@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The front panel's images for Qt Designer. The library's style sheets name a few pictures that
 // belong to the application running the form (the save-trace picture, the numeric pad's keys, the
 // arrows of the date and time editors); while a form is drawn in Designer, Designer is that

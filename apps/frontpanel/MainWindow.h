@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef MAINWINDOW_H
 #define MAINWINDOW_H
 

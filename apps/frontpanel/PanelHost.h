@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef PANELHOST_H
 #define PANELHOST_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef PANELSCREEN_H
 #define PANELSCREEN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "PanelScreen.h"
 
 // The header of every screen in screens/, gathered by the build.

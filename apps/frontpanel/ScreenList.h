@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef SCREENLIST_H
 #define SCREENLIST_H
 

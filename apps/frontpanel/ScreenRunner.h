@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef SCREENRUNNER_H
 #define SCREENRUNNER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef SETTINGSFOLDER_H
 #define SETTINGSFOLDER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef SIMPLEFILEBROWSER_H
 #define SIMPLEFILEBROWSER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef SIMULATEDENGINE_H
 #define SIMULATEDENGINE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef STATUSSTRIP_H
 #define STATUSSTRIP_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef TOPCONTAINER_H
 #define TOPCONTAINER_H
 

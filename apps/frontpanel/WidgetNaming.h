@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef WIDGETNAMING_H
 #define WIDGETNAMING_H
 

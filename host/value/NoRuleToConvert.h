@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef NORVANE_VALUE_NORULETOCONVERT_H
 #define NORVANE_VALUE_NORULETOCONVERT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef NORVANE_VALUE_UNIT_TUPLE_H
 #define NORVANE_VALUE_UNIT_TUPLE_H
 

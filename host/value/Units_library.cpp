@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "Units_library.h"
 
 #include "NoRuleToConvert.h"

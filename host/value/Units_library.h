@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef NORVANE_VALUE_UNITS_LIBRARY_H
 #define NORVANE_VALUE_UNITS_LIBRARY_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef VALUEHELPER_H
 #define VALUEHELPER_H
 

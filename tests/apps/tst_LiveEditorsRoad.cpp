@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The host's live editing duties on the real panel: the rotate key going round the editors a field's
 // flags allow, the arrow keys stepping the focused field, and the screens' own roads of the spinner,
 // the slider bar, the direction pad and the slider widgets.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The numeric screen on the host: fields bound to engine attributes, edited on the numeric pad through
 // real mouse events, committed values clamped by the engine and shown back in the fields.
 #define QTEST_QPA_MOUSE_HANDLING

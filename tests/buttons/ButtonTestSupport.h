@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef BUTTONTESTSUPPORT_H
 #define BUTTONTESTSUPPORT_H
 

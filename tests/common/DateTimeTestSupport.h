@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef DATETIMETESTSUPPORT_H
 #define DATETIMETESTSUPPORT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef ENUMTESTSUPPORT_H
 #define ENUMTESTSUPPORT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef KXTESTSUPPORT_H
 #define KXTESTSUPPORT_H
 

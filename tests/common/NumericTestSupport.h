@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef NUMERICTESTSUPPORT_H
 #define NUMERICTESTSUPPORT_H
 

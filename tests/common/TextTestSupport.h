@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef TEXTTESTSUPPORT_H
 #define TEXTTESTSUPPORT_H
 

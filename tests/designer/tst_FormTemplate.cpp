@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Form authors start from the front panel's screen template. Every widget of the plug-in collection
 // is placed on it the way a form author does, given its values the way the host does, and the
 // rendered screen is read back: every text must stand out from what it is drawn on.

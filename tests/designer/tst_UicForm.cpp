@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // A form with every widget of the collection, compiled by uic into this program the way an
 // application builds its screens: it has to compile against the installed headers' names, link,
 // and come up without a warning.

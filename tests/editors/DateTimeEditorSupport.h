@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef DATETIMEEDITORSUPPORT_H
 #define DATETIMEEDITORSUPPORT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef EDITORTESTSUPPORT_H
 #define EDITORTESTSUPPORT_H
 

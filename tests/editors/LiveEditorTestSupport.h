@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef LIVEEDITORTESTSUPPORT_H
 #define LIVEEDITORTESTSUPPORT_H
 

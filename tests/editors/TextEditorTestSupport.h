@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef TEXTEDITORTESTSUPPORT_H
 #define TEXTEDITORTESTSUPPORT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Date and time edits from the finger on the field to the value coming back from the engine, through
 // the window system's mouse events, the host's lock grant and the editors' arrows and keys.
 #define QTEST_QPA_MOUSE_HANDLING

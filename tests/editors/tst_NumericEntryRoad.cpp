@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // One numeric edit from the finger on the field to the value leaving the filter, through the window
 // system's mouse events, the host's lock grant and the numeric pad.
 #define QTEST_QPA_MOUSE_HANDLING

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Mouse events travel through the window system, as a finger on the panel does.
 #define QTEST_QPA_MOUSE_HANDLING
 #include <QtTest>

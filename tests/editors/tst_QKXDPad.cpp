@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The direction pad: key codes step a numeric field, the marked digit follows the step, each step is
 // submitted at once and the select key commits.
 #include <QtTest>

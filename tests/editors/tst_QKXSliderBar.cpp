@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The slider popup of a numeric field: its range, step and unit from the field, and every value the
 // finger reaches submitted live through the field's filter.
 #define QTEST_QPA_MOUSE_HANDLING

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The wheel: circles drawn with a finger on it, the steps they take, and each step submitted live.
 #include <QtTest>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #define QTEST_QPA_MOUSE_HANDLING
 #include <QtTest>
 

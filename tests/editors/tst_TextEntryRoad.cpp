@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Whole edits of text fields, from the finger on the field to the engine, through real mouse events.
 #define QTEST_QPA_MOUSE_HANDLING
 #include <QtTest>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // A value with units edited on the numeric pad: the pad's unit keys, and the whole road of one edit
 // from the finger on the field to the engine's value shown again in the unit the user chose.
 #define QTEST_QPA_MOUSE_HANDLING

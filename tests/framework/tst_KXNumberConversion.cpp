@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The one rule by which typed text becomes a number, in each of its forms.
 #include "KXNumberConversion_p.h"
 

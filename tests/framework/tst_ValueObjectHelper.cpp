@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "KXTestSupport.h"
 #include "Units_list.h"
 #include "ValueObjectHelper.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "CSS.h"
 #include "ContainerImpl.h"
 #include "KXTestSupport.h"

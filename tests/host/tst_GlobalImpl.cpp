@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "GlobalImpl.h"
 #include "SystemModule.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The meter bar's drawing: where the fill lies for a reading, which colour a bar state paints, that
 // a reading repaints only what changed, and scale labels that fit their text.
 #include <QtTest>

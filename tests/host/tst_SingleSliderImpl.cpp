@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The host's slider popup: what the finger, the keys and typing do to the value, and which changes
 // reach updateIndicatorValue().
 #define QTEST_QPA_MOUSE_HANDLING

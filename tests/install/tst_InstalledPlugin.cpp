@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The installed plug-in, loaded the way Qt Designer loads it: from the designer folder of the
 // prefix named by QT_PLUGIN_PATH, with the host layer found beside the installed library.
 #include <QtTest>

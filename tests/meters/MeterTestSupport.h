@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef METERTESTSUPPORT_H
 #define METERTESTSUPPORT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The meter bar: the display unit and the numbers it hands to the bar and the scale labels, the bar
 // state from the status flags, its sizes and orientations, and engine data it cannot draw.
 #include <QtTest>

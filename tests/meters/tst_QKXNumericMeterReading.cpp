@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The numeric meter reading: its text and status colours from the reading list's flags, the style
 // left alone while the status holds, and reading lists it cannot show.
 #include <QtTest>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The discrete value list: the field's record, and the popup that offers the allowed values under the
 // field, reuses its buttons and submits the tapped value with its units string.
 #define QTEST_QPA_MOUSE_HANDLING

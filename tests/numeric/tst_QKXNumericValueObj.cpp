@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The numeric field with units and its edit filter: the offered units, the display converted from the
 // engine's base-unit value, the order of the signals hosts bind to, the looks, and bad unit data.
 #include <QtTest>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef PLOTTESTSUPPORT_H
 #define PLOTTESTSUPPORT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef SLIDERTESTSUPPORT_H
 #define SLIDERTESTSUPPORT_H
 

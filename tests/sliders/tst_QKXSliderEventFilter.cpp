@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The slider filter: the lock is held while the finger is down, values leave only during the edit,
 // and the edit ends when the finger lifts, wherever that is.
 #define QTEST_QPA_MOUSE_HANDLING

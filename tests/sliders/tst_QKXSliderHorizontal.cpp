@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The horizontal slider: its value is the last one set, clamped; the handle announces every position.
 #define QTEST_QPA_MOUSE_HANDLING
 #include <QtTest>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The vertical slider: one announcement per setValue(), none from a new limit, and its turned caption
 // on either side.
 #include <QtTest>

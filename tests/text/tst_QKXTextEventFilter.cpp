@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Mouse and key events travel through the window system, as on the panel.
 #define QTEST_QPA_MOUSE_HANDLING
 #include <QtTest>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef CHOICESSCREEN_H
 #define CHOICESSCREEN_H
 

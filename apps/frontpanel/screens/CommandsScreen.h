@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef COMMANDSSCREEN_H
 #define COMMANDSSCREEN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef CONSTELLATIONSCREEN_H
 #define CONSTELLATIONSCREEN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef METERSSCREEN_H
 #define METERSSCREEN_H
 

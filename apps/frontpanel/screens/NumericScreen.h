@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef NUMERICSCREEN_H
 #define NUMERICSCREEN_H
 

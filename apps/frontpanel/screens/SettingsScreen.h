@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef SETTINGSSCREEN_H
 #define SETTINGSSCREEN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef SLIDERSSCREEN_H
 #define SLIDERSSCREEN_H
 

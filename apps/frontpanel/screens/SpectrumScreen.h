@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef SPECTRUMSCREEN_H
 #define SPECTRUMSCREEN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef SWITCHESSCREEN_H
 #define SWITCHESSCREEN_H
 

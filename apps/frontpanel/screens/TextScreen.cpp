@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "TextScreen.h"
 
 #include "EditLockOwner.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef TEXTSCREEN_H
 #define TEXTSCREEN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #ifndef UNITSSCREEN_H
 #define UNITSSCREEN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "NoRuleToConvert.h"
 #include "UnitDimensionNotSame.h"
 #include "Units_library.h"
