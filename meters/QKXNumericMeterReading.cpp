@@ -30,7 +30,7 @@ public:
     virtual QVariant readingTypes() const;
     // A unit the last reading has no number in (a huge value in a smaller unit, a level of nothing)
     // keeps the text shown before.
-    void selectUnitIndex(int index) override;
+    void showNoNumberInUnit() override;
 
     int readingTypeIndexValue;
     bool noReading;
@@ -178,17 +178,11 @@ void QKXNumericMeterReadingPrivate::setValueText(double value)
     }
 }
 
-void QKXNumericMeterReadingPrivate::selectUnitIndex(int index)
+void QKXNumericMeterReadingPrivate::showNoNumberInUnit()
 {
-    const QString before = lineEdit->text();
-    QKXNumericValueObjPrivate::selectUnitIndex(index);
-    const double shown = displayValue(currentValue);
-    if (!std::isfinite(shown) && lineEdit->text() != before) {
-        lineEdit->setText(before);
-        // Before the first reading the value is no reading: nothing to report.
-        if (showsReading) {
-            reportIgnored(QStringLiteral("reading %1 has no number in %2").arg(currentValue).arg(currentUnitName()));
-        }
+    // Before the first reading the value is no reading: nothing to report.
+    if (showsReading) {
+        reportIgnored(QStringLiteral("reading %1 has no number in %2").arg(currentValue).arg(currentUnitName()));
     }
 }
 

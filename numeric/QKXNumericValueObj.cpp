@@ -447,11 +447,7 @@ void QKXNumericValueObjPrivate::selectUnitIndex(int index)
     // Rewritten from the stored engine value, never from the text: the text is rounded.
     const double shown = displayValue(currentValue);
     if (!std::isfinite(shown)) {
-        // The stored value is good but has no number in this unit (0 W in dBm): any number left in
-        // the field would now read as one in the new unit.
-        qDebug().noquote() << "UserInterface -" << kxnumber::named(q) << "has no number for" << currentValue << "in"
-                           << kxunits_quoted(ValueHelper::getUnitString(currentUnits)) << "- display emptied";
-        lineEdit->clear();
+        showNoNumberInUnit();
     } else if (kxnumber::radixOf(int(base)) == 10) {
         const bool hadDecimals = lineEdit->text().contains(QLatin1Char('.'));
         lineEdit->setText(decimalText(shown, hadDecimals ? precisionValue : 0));
@@ -462,6 +458,14 @@ void QKXNumericValueObjPrivate::selectUnitIndex(int index)
 
     emit q->unitChanged(index);
     emit q->unitChanged(currentUnit());
+}
+
+void QKXNumericValueObjPrivate::showNoNumberInUnit()
+{
+    Q_Q(QKXNumericValueObj);
+    qDebug().noquote() << "UserInterface -" << kxnumber::named(q) << "has no number for" << currentValue << "in"
+                       << kxunits_quoted(ValueHelper::getUnitString(currentUnits)) << "- display emptied";
+    lineEdit->clear();
 }
 
 QKXNumericValueObj::QKXNumericValueObj(QWidget *parent)

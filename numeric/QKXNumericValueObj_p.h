@@ -86,6 +86,9 @@ public Q_SLOTS:
     virtual void selectUnitIndex(int index);
 
 protected:
+    // A unit change whose unit has no number for the stored value (0 W in dBm): the field is emptied,
+    // since any number left in it would now read as one in the new unit.
+    virtual void showNoNumberInUnit();
     // Makes the unit the base unit and rebuilds the offered list. A malformed string is read as far
     // as its shape allows (and reported by the units helper): the engine's unit is the truth.
     void takeBaseUnit(const QString &unit);

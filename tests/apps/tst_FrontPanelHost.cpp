@@ -122,6 +122,8 @@ void tst_FrontPanelHost::hostRegistrationAndTopContainer()
     QCOMPARE(global->systemModule()->getSystemScreen(QStringLiteral("MainWindow")), window.data());
     QCOMPARE(global->desktop(), window.data());
     QCOMPARE(window->size(), QSize(800, 480));
+    // The application ships the picture its save-trace buttons' style names.
+    QVERIFY(QFile::exists(QStringLiteral(":/images/svg/saveTrace.svg")));
 
     // Widgets find the top container by name, walking up from themselves.
     QKXPushButton *preset = commandButton(QStringLiteral("Preset"));
@@ -344,10 +346,10 @@ void tst_FrontPanelHost::panelFitsEveryDisplayMode_data()
     QTest::addColumn<int>("screens");
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("tabRows");
-    QTest::newRow("normal, ten screens") << "normal" << 10 << QSize(800, 480) << 2;
-    QTest::newRow("normal, fifteen screens") << "normal" << 15 << QSize(800, 480) << 3;
-    QTest::newRow("portrait, ten screens") << "small_portrait" << 10 << QSize(480, 800) << 4;
-    QTest::newRow("portrait, fifteen screens") << "small_portrait" << 15 << QSize(480, 800) << 5;
+    QTest::newRow("normal, twelve screens") << "normal" << 12 << QSize(800, 480) << 3;
+    QTest::newRow("normal, sixteen screens") << "normal" << 16 << QSize(800, 480) << 4;
+    QTest::newRow("portrait, twelve screens") << "small_portrait" << 12 << QSize(480, 800) << 4;
+    QTest::newRow("portrait, sixteen screens") << "small_portrait" << 16 << QSize(480, 800) << 6;
 }
 
 void tst_FrontPanelHost::panelFitsEveryDisplayMode()

@@ -100,6 +100,10 @@ void tst_QKXPlaybackControlButton::symbolsArePainted()
     QCOMPARE(triangle.pixelColor(centre), QColor(Qt::white));
     QCOMPARE(square.pixelColor(centre), QColor(Qt::white));
     QVERIFY(plain.pixelColor(centre) != QColor(Qt::white));
+    // The symbols are the library's own; the save-trace picture is the application's to ship.
+    QVERIFY(QFile::exists(QStringLiteral(":/images/SymbolTriangleRight.svg")));
+    QVERIFY(QFile::exists(QStringLiteral(":/images/SymbolWhiteSquare.svg")));
+    QVERIFY(!QFile::exists(QStringLiteral(":/images/svg/saveTrace.svg")));
 }
 
 void tst_QKXPlaybackControlButton::sheetAndClicksIgnoreTheLock()

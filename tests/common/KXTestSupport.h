@@ -45,11 +45,7 @@ private:
     }
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &msg)
     {
-        if (type == QtDebugMsg && all()) {
-            lines() << msg;
-            return;
-        }
-        if (isLibraryLine(type, msg)) {
+        if ((type == QtDebugMsg && all()) || isLibraryLine(type, msg)) {
             QString line = msg;
             while (line.endsWith(QLatin1Char(' ')))   // a trailing blank is the stream's business
                 line.chop(1);

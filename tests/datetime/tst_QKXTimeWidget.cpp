@@ -16,6 +16,7 @@ class tst_QKXTimeWidget : public QObject
 private slots:
     void showsTimeOfDay_data();
     void showsTimeOfDay();
+    void countOutsideRangeKeepsTime();
 };
 
 void tst_QKXTimeWidget::showsTimeOfDay_data()
@@ -56,6 +57,25 @@ void tst_QKXTimeWidget::showsTimeOfDay()
     widget.setValue(value);
     QCOMPARE(widget.findChild<QLineEdit *>()->text(), text);
     QCOMPARE(widget.property("Value").toLongLong(), value);
+}
+
+void tst_QKXTimeWidget::countOutsideRangeKeepsTime()
+{
+    QKXTimeWidget widget;
+    widget.setObjectName(QStringLiteral("clock"));
+    QVERIFY(widget.setProperty("UseMilitaryTime", true));
+    const qlonglong good = berlin(2040, 6, 2, 23, 59, 59);
+    widget.setValue(good);
+
+    for (const qlonglong value : {qlonglong(-1), qlonglong(4294967296LL)}) {
+        kxtest::DebugLines lines;
+        widget.setValue(value);
+        QCOMPARE(lines.lines(), QStringList(QStringLiteral("UserInterface - QKXTimeWidget \"clock\": value %1"
+                                                           " is not a count of seconds from 0 to 4294967295 - display kept")
+                                                .arg(value)));
+        QCOMPARE(widget.property("Value").toLongLong(), good);
+        QCOMPARE(widget.findChild<QLineEdit *>()->text(), QStringLiteral("23:59:59"));
+    }
 }
 
 QTEST_MAIN(tst_QKXTimeWidget)

@@ -73,6 +73,20 @@ std::function<void(QWidget *)> showsLiteral(const QStringList &literals, int val
     };
 }
 
+// A meter's reading in watts between 0 and 50 W, flagged as an ordinary reading (flag 4).
+std::function<void(QWidget *)> showsReading(double watts)
+{
+    return [watts](QWidget *w) {
+        const QString watt = QStringLiteral("0,0,6:1;0:0;0:0;0:0;0:0");
+        const auto valueRecord = [&watt](double value) { return QVariant(QVariantList{watt, 0.0, 0.0, value}); };
+        QVariantList list{QVariant(QVariantList{QVariant(QVariantList{QStringLiteral("Average"), valueRecord(watts)})})};
+        for (int flag = 1; flag <= 7; ++flag)
+            list << (flag == 4);
+        list << valueRecord(0.0) << valueRecord(50.0);
+        call(w, "setValue", Q_ARG(QVariant, QVariant(list)));
+    };
+}
+
 const QHash<QString, Placement> &placements()
 {
     const QString hz = QStringLiteral("0,0,1:1;0:0;0:0;0:0;0:0");
@@ -99,6 +113,11 @@ const QHash<QString, Placement> &placements()
          {caption("Bandwidth") + property("Precision", "number", "1") + property("BaseUnit", "string", hz)
               + property("DefaultUnit", "number", "1") + property("Units", "string", hz + '|' + khz),
           showsValue(12500.0)}},
+        {"QKXMeterBar", {caption("Power") + property("Horizontal", "bool", "true"), showsReading(25.0)}},
+        {"QKXNumericMeterReading", {caption("Power"), showsReading(12.5)}},
+        {"QKXTextEntry", {caption("Setup name") + property("text", "string", "Bench 3"), none}},
+        {"QKXTextLog",
+         {QString(), [](QWidget *w) { call(w, "setText", Q_ARG(QString, QStringLiteral("Sweep started"))); }}},
         {"QKXNumeric", {caption("Frequency (MHz)") + property("Precision", "number", "3"), showsValue(145.275)}},
         {"QKXNumericValueObj",
          {caption("Level") + property("Precision", "number", "1") + property("BaseUnit", "string", dbm)
@@ -302,12 +321,12 @@ void tst_FormTemplate::placedWidgetsAreNoSlivers()
 {
     // A widget just placed on a form has neither texts nor values yet; it must still be wide enough
     // to find and pick on the form: no widget of the panel is narrower than it is tall, but for the
-    // vertical slider, which stands upright.
+    // vertical slider and the meter bar, which stand upright until told otherwise.
     Norvane::gui::KXWidgets widgets;
     for (QDesignerCustomWidgetInterface *plugin : widgets.customWidgets()) {
         QScopedPointer<QWidget> w(plugin->createWidget(nullptr));
         QSize hint = w->sizeHint();
-        if (plugin->name() == QLatin1String("QKXSliderVertical"))
+        if (plugin->name() == QLatin1String("QKXSliderVertical") || plugin->name() == QLatin1String("QKXMeterBar"))
             hint.transpose();
         QVERIFY2(hint.width() >= hint.height(),
                  qPrintable(QStringLiteral("%1: %2x%3").arg(plugin->name()).arg(hint.width()).arg(hint.height())));

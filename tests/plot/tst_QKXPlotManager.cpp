@@ -218,6 +218,11 @@ void tst_QKXPlotManager::traceRangeSetsTheAxisOnlyWhenItChanges()
 
     s.plot.setTrace(Basic, QStringLiteral("spectrum"), basicTrace(3, x, y, 0, 200));
     QCOMPARE(s.axis(QwtPlot::xBottom), qMakePair(0.0, 200.0));
+
+    // A topic nobody announced draws nothing, but its range is still the plot's.
+    s.plot.setTrace(Basic, QStringLiteral("other"), basicTrace(3, x, y, 0, 300));
+    QCOMPARE(s.axis(QwtPlot::xBottom), qMakePair(0.0, 300.0));
+    QCOMPARE(s.points(QStringLiteral("spectrum")), 3);
 }
 
 void tst_QKXPlotManager::leftAxisFromTopAndDivision_data()
