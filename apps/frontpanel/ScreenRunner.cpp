@@ -96,7 +96,9 @@ QStringList ScreenRunner::renderWidgets(QStringList *missing)
                 continue;
             }
             const QString path = widgetDirectory.absoluteFilePath(className + QStringLiteral(".png"));
-            if (!widget->grab().save(path, "PNG")) {
+            // From the window, so that the panel shows through the widgets drawn on it.
+            const QRect area(widget->mapTo(mainWindow, QPoint(0, 0)), widget->size());
+            if (!mainWindow->grab(area).save(path, "PNG")) {
                 fail(QStringLiteral("cannot write %1").arg(path));
                 continue;
             }

@@ -45,6 +45,7 @@ void SwitchesScreen::addAttributes(SimulatedEngine &engine)
 {
     // The RF output, Preset, the sweep and the settings file are the engine's own.
     engine.addValue(QStringLiteral("Recording"), QStringLiteral("Stopped"));
+    engine.addValue(QStringLiteral("ExternalReference"), false);
     SimulatedEngine *target = &engine;
     engine.addCommand(QStringLiteral("PlayRecording"), tr("Play recording"),
                       [target] { target->setValue(QStringLiteral("Recording"), QStringLiteral("Playing")); });
