@@ -18,6 +18,10 @@
 //   tick         one 20 Hz tick on a live screen: 50 updates and the repaint they cause (plain Qt's
 //                progress bars repaint themselves as they take a value)
 //
+// Under callgrind (./kx bench meters --instructions) each update measurement of one run is also
+// counted in instructions, which the machine's load does not move: the counts are dumped per
+// screen and kx prints them per update.
+//
 // Run: ./kx bench meters   (or build-bench/bin/bench_meters [rounds] [runs])
 
 #include "QKXMeterBar.h"
@@ -29,6 +33,14 @@
 #include <QProgressBar>
 #include <QTextStream>
 #include <QVBoxLayout>
+
+#if __has_include(<valgrind/callgrind.h>)
+#include <valgrind/callgrind.h>
+#else
+#define RUNNING_ON_VALGRIND 0
+#define CALLGRIND_ZERO_STATS
+#define CALLGRIND_DUMP_STATS_AT(name)
+#endif
 
 #include <algorithm>
 #include <cmath>
@@ -110,6 +122,7 @@ std::vector<std::vector<Update>> makeRounds(int rounds, bool alarms)
 // A screen of 50 meter cells; feed(i, update) hands one update to cell i.
 struct Screen
 {
+    QByteArray name;
     QWidget window;
     std::function<void(int, const Update &)> feed;
 
@@ -188,10 +201,13 @@ void buildReference(Screen &screen, bool fixedLabels)
     };
 }
 
-// CPU seconds per update of feeding the rounds, painting held back.
-double timeUpdates(Screen &screen, const std::vector<std::vector<Update>> &rounds, bool repeatFirst)
+// CPU seconds per update of feeding the rounds, painting held back. Under callgrind the
+// instructions of the loop are dumped under the name.
+double timeUpdates(Screen &screen, const std::vector<std::vector<Update>> &rounds, bool repeatFirst,
+                   const QByteArray &name = QByteArray())
 {
     screen.window.setUpdatesEnabled(false);
+    CALLGRIND_ZERO_STATS;
     const double start = threadSeconds();
     for (const std::vector<Update> &round : rounds) {
         const std::vector<Update> &fed = repeatFirst ? rounds.front() : round;
@@ -201,6 +217,9 @@ double timeUpdates(Screen &screen, const std::vector<std::vector<Update>> &round
         QCoreApplication::sendPostedEvents();
     }
     const double seconds = threadSeconds() - start;
+    if (!name.isEmpty() && RUNNING_ON_VALGRIND) {
+        CALLGRIND_DUMP_STATS_AT(name.constData());
+    }
     screen.window.setUpdatesEnabled(true);
     QApplication::processEvents();
     return seconds / double(rounds.size() * MeterCount);
@@ -237,8 +256,8 @@ struct Figures
 void measure(Screen &screen, Figures &figures, const std::vector<std::vector<Update>> &steady,
              const std::vector<std::vector<Update>> &alarms)
 {
-    figures.update.push_back(timeUpdates(screen, steady, false));
-    figures.unchanged.push_back(timeUpdates(screen, steady, true));
+    figures.update.push_back(timeUpdates(screen, steady, false, screen.name + " update"));
+    figures.unchanged.push_back(timeUpdates(screen, steady, true, screen.name + " unchanged"));
     figures.status.push_back(timeUpdates(screen, alarms, false));
     figures.paint.push_back(timePaint(screen));
     figures.tick.push_back(timeTicks(screen, steady));
@@ -257,12 +276,15 @@ int main(int argc, char *argv[])
     const int runs = argc > 2 ? std::max(1, QString::fromLocal8Bit(argv[2]).toInt()) : 7;
 
     Screen meters;
+    meters.name = "meters";
     buildMeters(meters);
     meters.show();
     Screen reference;
+    reference.name = "plain";
     buildReference(reference, false);
     reference.show();
     Screen fixed;
+    fixed.name = "fixed";
     buildReference(fixed, true);
     fixed.show();
 
@@ -285,6 +307,10 @@ int main(int argc, char *argv[])
     }
 
     QTextStream out(stdout);
+    if (RUNNING_ON_VALGRIND) {
+        out << QStringLiteral("updates per measurement: %1\n").arg(rounds * MeterCount);
+        return 0;
+    }
     out << QStringLiteral("%1 meters, %2 rounds of reading lists per run, median of %3 runs, GUI-thread CPU time\n")
                .arg(MeterCount)
                .arg(rounds)
