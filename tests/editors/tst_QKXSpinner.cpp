@@ -235,6 +235,18 @@ void tst_QKXSpinner::enterCancelAndASecondEdit()
     QVERIFY(screen.open());
     emit screen.editor->updateValue(1.0);
     QCOMPARE(screen.road, QStringList{"double 50.1"});
+
+    // A second registration takes the wheel over; ending the first edit is the host's business.
+    auto *otherField = new QKXNumeric(&screen.window);
+    auto *otherFilter = new QKXNumericEventFilter(otherField, QStringLiteral("Double"), nullptr);
+    otherField->installEventFilter(otherFilter);
+    otherField->show();
+    QCoreApplication::processEvents();   // the filter's machine starts from the event loop
+    otherFilter->lockAcquired(otherField);
+    QVERIFY(QTest::qWaitFor([otherFilter] { return otherFilter->isEditing(); }));
+    screen.editor->registerWidget(otherFilter, otherField);
+    QCOMPARE(screen.road, QStringList{"double 50.1"});
+    QVERIFY(screen.filter->isEditing());
 }
 
 void tst_QKXSpinner::textThatIsNoNumber()
