@@ -24,7 +24,7 @@ class STANDALONEPLUGINS_EXPORT QKXKeyboard : public ContainerImpl
     Q_PROPERTY(KeyBoardMode KeyMode READ keyMode WRITE setKeyMode)
 
 public:
-    enum KeyBoardMode { LOWER_CASES = 0, UPPER_CASES = 1, SYMBOLS = 2, NUMBERS = 3 };
+    enum KeyBoardMode : int { LOWER_CASES = 0, UPPER_CASES = 1, SYMBOLS = 2, NUMBERS = 3 };
     Q_ENUM(KeyBoardMode)
 
     explicit QKXKeyboard(QWidget *parent = nullptr);

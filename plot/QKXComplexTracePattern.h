@@ -26,9 +26,10 @@ class STANDALONEPLUGINS_EXPORT QKXComplexTracePattern : public QKXWidgetBase
     Q_PROPERTY(ReferencePattern ReferencePattern READ currentRefPattern WRITE setRefPattern DESIGNABLE true STORED true)
 
 public:
-    enum PatternStyle { ELLIPSE = 0, DIAMOND = 1, XCROSS = 2, STAR = 3 };
+    // Over int, so that any number a form or host writes is a value the widget can hold.
+    enum PatternStyle : int { ELLIPSE = 0, DIAMOND = 1, XCROSS = 2, STAR = 3 };
     Q_ENUM(PatternStyle)
-    enum ReferencePattern {
+    enum ReferencePattern : int {
         SIMPLE_LINE = 0,
         CONSTELLATION_BPSK = 1,
         CONSTELLATION_8BPSK = 2,

@@ -53,9 +53,9 @@ class STANDALONEPLUGINS_EXPORT QKXPlotManager : public QKXWidgetBase
     Q_PROPERTY(double ReferenceRadius READ refRadius WRITE setRefRadius DESIGNABLE true SCRIPTABLE true STORED true)
 
 public:
-    enum PlotCurveStyle { LINES_STYLE = 0, DOTS_STYLE = 1 };
+    enum PlotCurveStyle : int { LINES_STYLE = 0, DOTS_STYLE = 1 };
     Q_ENUM(PlotCurveStyle)
-    enum ReferencePattern {
+    enum ReferencePattern : int {
         SIMPLE_LINE = 0,
         CONSTELLATION_BPSK = 1,
         CONSTELLATION_8BPSK = 2,

@@ -21,7 +21,7 @@ class STANDALONEPLUGINS_EXPORT QKXTextEntry : public QKXWidgetBase
     Q_PROPERTY(EntryModeEnum EntryMode READ entryMode WRITE setEntryMode)
 
 public:
-    enum EntryModeEnum {
+    enum EntryModeEnum : int {
         KeyboardEntry = 0,
         IPEntry = 1,
         PasswordEntry = 2,
