@@ -53,7 +53,7 @@ static int frontpanel_runHeadless(MainWindow &window, const QString &outputDir, 
     out << "frontpanel: " << widgetImages.size() << " widget pictures in " << dir.absoluteFilePath(QStringLiteral("widgets"))
         << Qt::endl;
     if (!notOnAScreen.isEmpty()) {
-        out << "frontpanel: on no screen: " << notOnAScreen.join(QStringLiteral(", ")) << Qt::endl;
+        out << "frontpanel: not shown on their own: " << notOnAScreen.join(QStringLiteral(", ")) << Qt::endl;
     }
     if (runner.tapPushButton(tapTarget)) {
         out << "frontpanel: scripted tap on " << tapTarget << " complete" << Qt::endl;
