@@ -36,8 +36,9 @@ public:
     // first screen showing.
     QStringList renderScreens();
     // Renders the first widget of each class of the Designer collection found on the screens, alone,
-    // as "widgets/<class>.png"; returns the absolute paths written. The classes no screen shows on their own
-    // (the constellation's pattern and range draw into its plot) are added to missing. Leaves the first screen showing.
+    // as "widgets/<class>.png"; returns the absolute paths written. The classes no screen shows on
+    // their own (the constellation's pattern and range draw into its plot) are added to missing.
+    // Leaves the first screen showing.
     QStringList renderWidgets(QStringList *missing = nullptr);
     // Renders the window as it is now as "<baseName>.png"; returns the absolute path, or "" with
     // failure() saying why.
