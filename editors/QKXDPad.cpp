@@ -55,12 +55,7 @@ QKXDPad::~QKXDPad() = default;
 void QKXDPad::registerWidget(QObject *filter, QWidget *widget)
 {
     Q_D(QKXDPad);
-    // A registration that finds another filter still registered takes its connections over without
-    // ending that filter's edit (the host does that): left connected, the old filter's editEnd() would
-    // reach unregister() again with every close.
-    if (d->filter) {
-        QKXPopupChain::unchainAll(this, d->filter);
-    }
+    QKXPopupChain::unchainAll(this, d->filter);   // a registration still held, if any
     if (d->widget) {
         disconnect(d->widget, nullptr, this, nullptr);
     }

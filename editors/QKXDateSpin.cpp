@@ -266,12 +266,9 @@ void QKXDateSpin::registerWidget(QObject *filter, QWidget *widget)
         qDebug().noquote() << "UserInterface - QKXDateSpin::registerWidget: no filter to commit to - not opened";
         return;
     }
-    // A tap on a widget without adapter starts its edit again while the editor is open; another
-    // filter still registered keeps its edit (the host ends it), but not its connections, or its
-    // editEnd() would reach unregister() and come back through it without end.
-    if (d->filter) {
-        QKXPopupChain::unchain(this, d->filter);
-    }
+    // A registration still held, if any: also the same filter, when a tap on a widget without adapter
+    // starts its edit again while the editor is open.
+    QKXPopupChain::unchain(this, d->filter);
     d->filter = filter;
     d->widget = widget;
 

@@ -206,12 +206,7 @@ QKXSpinner::~QKXSpinner() = default;
 void QKXSpinner::registerWidget(QObject *filter, QWidget *widget)
 {
     Q_D(QKXSpinner);
-    // A registration that finds another filter still registered takes its connections over without
-    // ending that filter's edit (the host does that): left connected, the old filter's editEnd() would
-    // reach unregister(), whose editEnd() reaches the old filter again, without end.
-    if (d->filter) {
-        QKXPopupChain::unchainAll(this, d->filter);
-    }
+    QKXPopupChain::unchainAll(this, d->filter);   // a registration still held, if any
     d->filter = filter;
     d->widget = widget;
     d->entry = widget ? widget->findChild<QLineEdit *>() : nullptr;

@@ -16,6 +16,10 @@ class QObject;
 // Unregistering: the filter's editEnd() no longer reaches the popup and nothing of the popup reaches
 // the filter. Other connections between the two stay: the host's editStart() -> registerWidget()
 // has to survive for the next edit.
+// Registering over a registration: a popup first lets go of the filter it still holds, as its
+// unregister() would, but without ending that filter's edit (the host does that, or takes the edit
+// on). Left connected, the old filter's editEnd() would reach unregister(), whose closing signal
+// reaches the old filter again, without end; the same filter registered again would be chained twice.
 class STANDALONEPLUGINS_EXPORT QKXPopupChain
 {
 public:
